@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+// Who we are and where our pages stand. Addresses are values of the deployment.
+
+inline constexpr QLatin1StringView kApplicationVersion{"1.0.10"};
+inline constexpr QLatin1StringView kOrganizationName{"Kestrelwood"};
+inline constexpr QLatin1StringView kOrganizationDomain{"kestrelwood.example"};
+inline constexpr QLatin1StringView kApplicationName{"Pursewell"};
+inline constexpr QLatin1StringView kDisplayName{"Kestrelwood Pursewell"};
+
+inline constexpr QLatin1StringView kFeedbackUrl{"https://feedback.kestrelwood.example/"};
+inline constexpr QLatin1StringView kProductUrl{"https://www.kestrelwood.example/pursewell/"};
+inline constexpr QLatin1StringView kSourceUrl{"https://source.kestrelwood.example/pursewell/"};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+struct FeedbackConfig
+{
+    QString tag{};
+    QUrl url{};
+};
+
+FeedbackConfig feedbackConfig();

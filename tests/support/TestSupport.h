@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+// Points the settings, the data directory and the locale of this process at a scratch directory,
+// so that no test reads or writes a person's data. Construct it before the QApplication.
+class TestEnvironment
+{
+public:
+    TestEnvironment();
+    QString path(const QString &name) const; // a path inside the scratch directory
+
+private:
+    QTemporaryDir m_directory;
+};
+
+// Collects the log lines of its lifetime instead of printing them.
+class LogCatcher
+{
+public:
+    LogCatcher();
+    ~LogCatcher();
+    LogCatcher(const LogCatcher &) = delete;
+    LogCatcher &operator=(const LogCatcher &) = delete;
+
+    static QStringList warnings();  // warning level only
+    static QStringList criticals(); // critical level only
+    static QStringList infos();
+};
+
+// Runs one test class in a scratch environment with a QApplication.
+#define PURSEWELL_TEST_MAIN(TestClass)                                                             \
+    int main(int argc, char *argv[])                                                               \
+    {                                                                                              \
+        TestEnvironment environment;                                                               \
+        QApplication application(argc, argv);                                                      \
+        QCoreApplication::setOrganizationName(QStringLiteral("Kestrelwood"));                      \
+        QCoreApplication::setApplicationName(QStringLiteral("Pursewell"));                         \
+        TestClass test;                                                                            \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }
