@@ -1,0 +1,147 @@
+#include "services/CategoryService.h"
+
+#include "support/SampleRecords.h"
+#include "support/TestDatabase.h"
+#include "support/TestSupport.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A language in which every name is the English one in brackets.
+class BracketLanguage : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        return qstrcmp(context, "CategoryService") == 0
+            ? u"[%1]"_s.arg(QString::fromUtf8(sourceText))
+            : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class CategoryServiceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void emptyDatabaseGetsTheDefaults();
+    void namesDecideTheIds_data();
+    void namesDecideTheIds();
+    void translatedNamesGiveOtherIds();
+    void oneLiveCategoryIsEnough();
+    void deletedCategoriesAreInTheWay();
+
+private:
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<CategoryService> m_service;
+};
+
+void CategoryServiceTest::init()
+{
+    m_database = std::make_unique<TestDatabase>();
+    m_service = std::make_unique<CategoryService>(&m_database->categories);
+}
+
+void CategoryServiceTest::cleanup()
+{
+    m_service.reset();
+    m_database.reset();
+}
+
+void CategoryServiceTest::emptyDatabaseGetsTheDefaults()
+{
+    m_service->seedDefaults();
+    const QList<Category> seeded = m_database->categories.listActive();
+    QCOMPARE(seeded.size(), 56);
+    const auto count = [&](auto holds) {
+        return std::count_if(seeded.begin(), seeded.end(), holds);
+    };
+    QCOMPARE(count([](const Category &category) { return !category.parent_id.isEmpty(); }), 27);
+    QCOMPARE(count([](const Category &category) { return category.is_tax_relevant; }), 12);
+    QCOMPARE(count([](const Category &category) { return !category.tax_category.isEmpty(); }), 12);
+    QCOMPARE(count([](const Category &category) {
+                 return category.is_default && category.sync_status == SyncStatus::Pending
+                     && category.created_at.isValid() && category.updated_at == category.created_at;
+             }),
+             56);
+}
+
+void CategoryServiceTest::namesDecideTheIds_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("parent");
+    QTest::addColumn<QString>("taxCategory");
+    QTest::newRow("top level") << u"f80ec558-0a5d-59fd-bb97-1216bc91c991"_s << u"Groceries"_s
+                               << u""_s << u""_s;
+    QTest::newRow("the maintenance of a house")
+        << u"daf59c16-ae84-5a09-be11-bd9dcd047413"_s << u"Maintenance"_s << u"Housing"_s << u""_s;
+    QTest::newRow("the maintenance of a car") << u"5128844d-e078-502e-877e-a6a67d8a3261"_s
+                                              << u"Maintenance"_s << u"Transportation"_s << u""_s;
+    QTest::newRow("child with a tax code")
+        << u"7ac27a40-d9d3-5c60-af4b-fc3c84e61133"_s << u"Home Office"_s << u"Business Expenses"_s
+        << u"home_office"_s;
+    QTest::newRow("ampersand") << u"376b4690-cf3e-5136-bd4a-e04c2f10d736"_s
+                               << u"State & Local Taxes"_s << u""_s << u"salt"_s;
+    QTest::newRow("income") << u"f9b00ad8-7eac-57a5-9647-b289b1b606aa"_s << u"Interest Income"_s
+                            << u""_s << u"interest_income"_s;
+}
+
+void CategoryServiceTest::namesDecideTheIds()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, parent);
+    m_service->seedDefaults();
+    const std::optional<Category> category = m_database->categories.findById(id);
+    QVERIFY(category);
+    QTEST(category->name, "name");
+    QTEST(category->tax_category, "taxCategory");
+    const std::optional<Category> above = m_database->categories.findById(category->parent_id);
+    QCOMPARE(above ? above->name : QString(), parent);
+}
+
+void CategoryServiceTest::translatedNamesGiveOtherIds()
+{
+    BracketLanguage language;
+    QCoreApplication::installTranslator(&language);
+    m_service->seedDefaults();
+    QCoreApplication::removeTranslator(&language);
+    const std::optional<Category> category =
+        m_database->categories.findById(u"a27c4213-9d8c-54e6-8f00-78d1b2c9898d"_s);
+    QVERIFY(category);
+    QCOMPARE(category->name, u"[HOA]"_s);
+    QCOMPARE(m_database->categories.findById(category->parent_id)->name, u"[Housing]"_s);
+}
+
+void CategoryServiceTest::oneLiveCategoryIsEnough()
+{
+    QVERIFY(m_database->categories.insert(sampleCategory()));
+    m_service->seedDefaults();
+    QCOMPARE(m_database->categories.countActive(), 1);
+    QVERIFY(m_database->categories.softDelete(u"c"_s));
+    m_service->seedDefaults();
+    QCOMPARE(m_database->categories.countActive(), 56);
+}
+
+void CategoryServiceTest::deletedCategoriesAreInTheWay()
+{
+    m_service->seedDefaults();
+    for (const Category &category : m_database->categories.listActive())
+        QVERIFY(m_database->categories.softDelete(category.id));
+    const LogCatcher log;
+    m_service->seedDefaults();
+    QCOMPARE(m_database->categories.countActive(), 0);
+    QCOMPARE(LogCatcher::warnings().size(), 56);
+}
+
+PURSEWELL_TEST_MAIN(CategoryServiceTest)
+#include "CategoryServiceTest.moc"

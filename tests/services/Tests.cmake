@@ -1,0 +1,1 @@
+pursewell_test(CategoryServiceTest LABEL unit USES pursewell_services pursewell_test_database)
