@@ -1,0 +1,16 @@
+#include "shell/theme/ButtonStyles.h"
+
+using namespace Qt::StringLiterals;
+
+QString primaryButtonStyle()
+{
+    return u"QPushButton {  background-color: %1;  color: white;  border: none;"
+           "  border-radius: 4px;  padding: 6px 16px;  font-weight: 600;  min-width: 80px;}"
+           "QPushButton:hover {  background-color: #00796B;}"
+           "QPushButton:pressed {  background-color: #004D40;}"_s.arg(u"#00897B"_s);
+}
+
+QString linkButtonStyle()
+{
+    return u"QPushButton { color: %1; border: none; background: transparent; }"_s.arg(u"#4DB6AC"_s);
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QPalette>
+
+QPalette lightPalette();
+QPalette darkPalette();
