@@ -1,0 +1,588 @@
+#include "register/RegisterScreen.h"
+
+#include "core/Dates.h"
+#include "core/Money.h"
+#include "core/state/AppState.h"
+#include "data/AccountRepository.h"
+#include "data/PreferencesRepository.h"
+#include "data/TransactionRepository.h"
+#include "register/PayeeMemoEditor.h"
+#include "register/RegisterColumn.h"
+#include "register/RegisterColumnLayout.h"
+#include "register/RegisterDelegate.h"
+#include "register/RegisterLineEdit.h"
+#include "register/RegisterModel.h"
+#include "register/RegisterRowWriter.h"
+#include "register/RegisterTableView.h"
+#include "register/TransactionDeletion.h"
+#include "register/TransactionDetailsDialog.h"
+#include "shell/theme/BalanceLabel.h"
+#include "shell/theme/ElidedLabel.h"
+#include "shell/theme/FontRoles.h"
+#include "shell/theme/MoneyColors.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMargin = 24; // pixels
+
+template <typename Label>
+Label *makeLabel(QWidget *parent, const QString &objectName, int fontRole)
+{
+    auto *label = new Label(parent);
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText); // names of accounts are a person's words
+    applyFontRole(label, fontRole);
+    return label;
+}
+
+QString nativeKeys(const QString &keys)
+{
+    return QKeySequence(keys).toString(QKeySequence::NativeText);
+}
+
+} // namespace
+
+RegisterScreen::RegisterScreen(AppState *appState, QWidget *parent)
+    : QWidget(parent)
+    , m_appState(appState)
+    , m_model(new RegisterModel(this))
+    , m_view(new RegisterTableView(this, this))
+    , m_delegate(new RegisterDelegate(appState, m_model, this))
+    , m_navigator(m_view, m_model)
+    , m_titleLabel(makeLabel<ElidedLabel>(this, u"titleLabel"_s, FontRole::Title))
+    , m_subtitleLabel(makeLabel<QLabel>(this, u"subtitleLabel"_s, FontRole::Caption))
+    , m_balanceLabel(makeLabel<BalanceLabel>(this, u"balanceLabel"_s, FontRole::Heading))
+    , m_messageLabel(makeLabel<QLabel>(this, u"messageLabel"_s, FontRole::Body))
+    , m_reconcileButton(new QPushButton(tr("Reconcile"), this))
+{
+    setUpView();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->addWidget(buildHeader());
+    layout->addWidget(m_subtitleLabel);
+    layout->addSpacing(8);
+    layout->addWidget(m_view, 1);
+    layout->addWidget(buildFooter());
+    connectView();
+    m_columnLayout = new RegisterColumnLayout(appState, m_view, m_model, this);
+    setFocusProxy(m_view);
+}
+
+QWidget *RegisterScreen::buildHeader()
+{
+    auto *header = new QWidget(this);
+    auto *row = new QHBoxLayout(header);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(16);
+    m_balanceLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_subtitleLabel->setStyleSheet(u"color: %1;"_s.arg(mutedColor().name()));
+    m_reconcileButton->setObjectName(u"reconcileButton"_s);
+    m_reconcileButton->setFocusPolicy(Qt::ClickFocus);
+    m_reconcileButton->hide(); // there is no window yet in which to reconcile
+    connect(m_reconcileButton, &QPushButton::clicked, this,
+            [this] { Q_EMIT reconcileRequested(m_accountId); });
+    row->addWidget(m_titleLabel);
+    row->addStretch();
+    row->addWidget(m_balanceLabel);
+    row->addWidget(m_reconcileButton);
+    return header;
+}
+
+QWidget *RegisterScreen::buildFooter()
+{
+    auto *footer = new QWidget(this);
+    auto *row = new QHBoxLayout(footer);
+    row->setContentsMargins(0, 0, 0, 0);
+    const QString style = u"color: %1; padding: 2px 4px;"_s;
+    m_messageLabel->setStyleSheet(style.arg(mutedColor().name()));
+    QLabel *hint = makeLabel<QLabel>(footer, u"hintLabel"_s, FontRole::Body);
+    hint->setStyleSheet(style.arg(u"#5A7A6E"_s));
+    hint->setText(
+        tr("%1: save  |  Enter: next  |  %2: delete  |  %3: memorize  |  ': copy above")
+            .arg(nativeKeys(u"Ctrl+Return"_s), nativeKeys(u"Ctrl+D"_s), nativeKeys(u"Ctrl+M"_s)));
+    row->addWidget(m_messageLabel);
+    row->addStretch();
+    row->addWidget(hint);
+    return footer;
+}
+
+void RegisterScreen::setUpView()
+{
+    m_view->setObjectName(u"registerTable"_s);
+    m_view->setModel(m_model);
+    m_view->setItemDelegate(m_delegate);
+    m_view->setAlternatingRowColors(true);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectItems);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setTabKeyNavigation(false);
+    m_view->setFocusPolicy(Qt::StrongFocus);
+    m_view->setShowGrid(false);
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
+    m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setMinimumSectionSize(RegisterDelegate::kRowHeight);
+    m_view->verticalHeader()->setDefaultSectionSize(RegisterDelegate::kRowHeight);
+    m_view->installEventFilter(this);
+    m_view->viewport()->installEventFilter(this);
+
+    QHeaderView *header = m_view->horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::Interactive);
+    header->setStretchLastSection(false);
+    header->setMinimumSectionSize(24);
+    header->setSortIndicatorShown(true);
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_view->setSortingEnabled(true);
+}
+
+void RegisterScreen::connectView()
+{
+    connect(m_view->horizontalHeader(), &QWidget::customContextMenuRequested, this,
+            &RegisterScreen::showHeaderContextMenu);
+    connect(m_view, &QWidget::customContextMenuRequested, this, &RegisterScreen::onContextMenu);
+    connect(m_view, &QAbstractItemView::clicked, this, &RegisterScreen::onClicked);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &current, const QModelIndex &previous) {
+                if (current.isValid() && !(previous.isValid() && previous.row() == current.row()))
+                    startEditingRow(current.row());
+            });
+    // A sort moves the rows under the number of the row being edited; saved then, its texts would
+    // land in another transaction.
+    connect(m_model, &RegisterModel::sortChanged, this, [this] {
+        if (m_model->editRow() < 0)
+            return;
+        m_model->setEditRow(-1);
+        m_model->resetInsertionBuffers();
+    });
+}
+
+void RegisterScreen::setAccount(const QString &accountId)
+{
+    // A refresh spares an open editor; here it would leave the other account's rows in the grid.
+    m_view->dropActiveEditor();
+    m_accountId = accountId;
+    m_delegate->setAccountId(accountId);
+    refresh();
+    goToInsertionRow();
+}
+
+void RegisterScreen::refresh()
+{
+    if (m_accountId.isEmpty() || m_view->isEditing())
+        return;
+    const auto account = m_appState->accounts()->findById(m_accountId);
+    if (!account)
+        return;
+    const Position before = position();
+    QList<RegisterRow> rows = m_appState->transactions()->registerRows(m_accountId);
+    applyTwoLineMode();
+    showAccount(*account, rows);
+    m_model->setRows(std::move(rows));
+    restorePosition(before);
+}
+
+void RegisterScreen::refreshAfterWrite()
+{
+    m_view->dropActiveEditor();
+    refresh();
+}
+
+void RegisterScreen::showAccount(const Account &account, const QList<RegisterRow> &rows)
+{
+    m_titleLabel->setFullText(account.name);
+    QString subtitle = account.institution;
+    if (!account.account_number_last4.isEmpty())
+        subtitle += (subtitle.isEmpty() ? u"*%1"_s : u"  ·  *%1"_s).arg(
+            account.account_number_last4);
+    m_subtitleLabel->setText(subtitle);
+    m_subtitleLabel->setVisible(!subtitle.isEmpty());
+
+    const qint64 balance = rows.isEmpty() ? account.starting_balance : rows.last().balance;
+    m_balanceLabel->setText(formatMoney(balance, account.currency));
+    const QColor color = balance < 0 ? negativeColor() : positiveColor();
+    m_balanceLabel->setStyleSheet(u"color: %1;"_s.arg(color.name()));
+}
+
+void RegisterScreen::applyTwoLineMode()
+{
+    const bool enabled = m_appState->preferences()->getBool(u"registerTwoLine"_s, false);
+    const int height = enabled ? RegisterDelegate::kTwoLineRowHeight : RegisterDelegate::kRowHeight;
+    m_delegate->setTwoLineMode(enabled);
+    m_columnLayout->setTwoLineMode(enabled);
+    m_model->setTwoLineMode(enabled);
+    Q_EMIT m_model->headerDataChanged(Qt::Horizontal, RegisterColumn::Payee, RegisterColumn::Payee);
+    if (m_view->verticalHeader()->defaultSectionSize() != height)
+        m_view->verticalHeader()->setDefaultSectionSize(height);
+    m_view->viewport()->update();
+}
+
+RegisterScreen::Position RegisterScreen::position() const
+{
+    Position position;
+    const QModelIndex current = m_view->currentIndex();
+    if (current.isValid()) {
+        const RegisterRow *row = m_model->rowAt(current.row());
+        position.currentId = row ? row->id : QString();
+        position.currentRow = current.row();
+        position.currentColumn = current.column();
+    }
+    const QModelIndex top = m_view->indexAt(QPoint(0, 0));
+    if (top.isValid()) {
+        const RegisterRow *row = m_model->rowAt(top.row());
+        position.topId = row ? row->id : QString();
+        position.topRow = top.row();
+    }
+    return position;
+}
+
+int RegisterScreen::rowOf(const QString &transactionId, int rememberedRow) const
+{
+    const int count = m_model->rowCount();
+    for (int row = 0; row < count && !transactionId.isEmpty(); ++row) {
+        const RegisterRow *stored = m_model->rowAt(row);
+        if (stored && stored->id == transactionId)
+            return row;
+    }
+    return rememberedRow < 0 ? -1 : qMin(rememberedRow, count - 1);
+}
+
+void RegisterScreen::restorePosition(const Position &position)
+{
+    const int current = rowOf(position.currentId, position.currentRow);
+    const QModelIndex cursor = m_model->index(current, position.currentColumn);
+    if (cursor.isValid())
+        m_view->setCurrentIndex(cursor);
+    const int top = rowOf(position.topId, position.topRow);
+    if (top >= 0)
+        m_view->scrollTo(m_model->index(top, 0), QAbstractItemView::PositionAtTop);
+    if (cursor.isValid())
+        m_view->scrollTo(cursor, QAbstractItemView::EnsureVisible);
+}
+
+void RegisterScreen::goToInsertionRow()
+{
+    const int row = m_model->insertionRow();
+    if (row == 0)
+        m_view->scrollToTop();
+    else
+        m_view->scrollToBottom();
+    m_view->setCurrentIndex(m_model->index(row, RegisterColumn::Date));
+}
+
+void RegisterScreen::showMessage(const QString &text, int milliseconds)
+{
+    m_messageLabel->setText(text);
+    QTimer::singleShot(milliseconds, m_messageLabel, &QLabel::clear);
+}
+
+void RegisterScreen::startEditingRow(int row)
+{
+    if (row == m_model->insertionRow()) {
+        if (m_model->editRow() >= 0)
+            m_model->resetInsertionBuffers();
+        m_model->setEditRow(-1);
+    } else if (row != m_model->editRow()) {
+        m_model->loadRowIntoBuffers(row);
+        m_model->setEditRow(row);
+    }
+    m_view->viewport()->update(); // the insertion row looks different beside a row under edit
+}
+
+bool RegisterScreen::splitLinesOwn(const QModelIndex &index) const
+{
+    return m_model->isSplitRow(index.row())
+        && RegisterColumn::belongsToSplitLines(index.column());
+}
+
+void RegisterScreen::onClicked(const QModelIndex &index)
+{
+    if (!index.isValid())
+        return;
+    startEditingRow(index.row());
+    if (index.column() != RegisterColumn::Balance && !splitLinesOwn(index))
+        m_view->edit(index);
+}
+
+void RegisterScreen::commitCurrentRow()
+{
+    m_navigator.commitActiveEditor();
+    m_view->setCurrentIndex({});
+    const int editRow = m_model->editRow();
+    const RegisterRow *stored = editRow < 0 ? nullptr : m_model->rowAt(editRow);
+    RegisterRowWriter writer(*m_appState, m_accountId);
+    const auto outcome = stored ? writer.saveChanges(*stored, m_model->buffers())
+                                : writer.saveNew(m_model->buffers());
+    switch (outcome) {
+    case RegisterRowWriter::Outcome::Refused:
+        showMessage(writer.message());
+        return;
+    case RegisterRowWriter::Outcome::CurrenciesDiffer:
+        Q_EMIT errorMessage(writer.message());
+        return;
+    case RegisterRowWriter::Outcome::Saved:
+        break;
+    }
+    if (!stored) {
+        m_model->setLastEnteredDate(m_model->buffers().date);
+        refresh();
+        goToInsertionRow();
+        return;
+    }
+    refresh();
+    if (editRow + 1 < m_model->rowCount())
+        m_view->setCurrentIndex(m_model->index(editRow + 1, RegisterColumn::Date));
+}
+
+void RegisterScreen::copyFromAbove()
+{
+    const QModelIndex index = m_view->currentIndex();
+    if (!index.isValid() || index.row() == 0)
+        return;
+    const int above = index.row() - 1;
+    // Read before the write: the row above may be the insertion row and share the buffers.
+    const RegisterRow *stored = m_model->rowAt(above);
+    const QString categoryId = stored ? stored->category_id : m_model->buffers().category_id;
+    const QVariant value = m_model->index(above, index.column()).data(Qt::EditRole);
+    m_model->setData(index, value);
+    if (index.column() == RegisterColumn::Category)
+        m_model->buffers().category_id = categoryId; // or the old one would be saved
+    if (auto *line = qobject_cast<QLineEdit *>(m_view->activeEditor()))
+        line->setText(value.toString());
+}
+
+void RegisterScreen::advanceToNextField()
+{
+    const QModelIndex index = m_view->currentIndex();
+    if (!index.isValid())
+        return;
+    m_navigator.commitActiveEditor();
+    const int next = m_navigator.columnAfter(index.column());
+    if (next < 0)
+        commitCurrentRow();
+    else
+        m_navigator.openField(next);
+}
+
+void RegisterScreen::advanceToPreviousField()
+{
+    const QModelIndex index = m_view->currentIndex();
+    if (!index.isValid())
+        return;
+    m_navigator.commitActiveEditor();
+    const int previous = m_navigator.columnBefore(index.column());
+    if (previous < 0)
+        return;
+    m_navigator.openField(previous);
+    m_navigator.enterMemoLine();
+}
+
+void RegisterScreen::moveToNextField()
+{
+    const QModelIndex index = m_view->currentIndex();
+    if (!index.isValid())
+        return;
+    m_navigator.commitActiveEditor();
+    if (const int next = m_navigator.columnAfter(index.column()); next >= 0)
+        m_navigator.hopToField(next);
+}
+
+void RegisterScreen::moveToPreviousField()
+{
+    const QModelIndex index = m_view->currentIndex();
+    if (!index.isValid())
+        return;
+    m_navigator.commitActiveEditor();
+    const int previous = m_navigator.columnBefore(index.column());
+    if (previous < 0)
+        return;
+    m_navigator.hopToField(previous);
+    m_navigator.enterMemoLine();
+}
+
+bool RegisterScreen::focusNextPrevChild(bool next)
+{
+    QWidget *focused = QApplication::focusWidget();
+    if (focused && focused != m_view && !m_view->isAncestorOf(focused))
+        return QWidget::focusNextPrevChild(next);
+    const PayeeMemoEditor *both = PayeeMemoEditor::around(focused);
+    if (both && next && focused == both->payeeEdit()) {
+        both->memoEdit()->setFocus(Qt::OtherFocusReason);
+    } else if (both && !next && focused == both->memoEdit()) {
+        both->payeeEdit()->setFocus(Qt::OtherFocusReason);
+    } else if (next) {
+        moveToNextField();
+    } else {
+        moveToPreviousField();
+    }
+    return true;
+}
+
+bool RegisterScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (event->type() == QEvent::KeyPress && widget
+        && (widget == m_view || m_view->isAncestorOf(widget))
+        && handleKey(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QWidget::eventFilter(watched, event);
+}
+
+bool RegisterScreen::handleKey(const QKeyEvent &key)
+{
+    const bool ctrl = key.modifiers() & Qt::ControlModifier;
+    const QModelIndex current = m_view->currentIndex();
+    switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (ctrl)
+            commitCurrentRow();
+        else if (!(key.modifiers() & Qt::AltModifier))
+            onEnter();
+        else if (current.isValid())
+            showDetails(current.row());
+        return true;
+    case Qt::Key_D:
+        if (ctrl)
+            deleteCurrentRow();
+        return ctrl;
+    case Qt::Key_I: {
+        const bool insert = ctrl && !(key.modifiers() & Qt::ShiftModifier);
+        if (insert)
+            insertNew();
+        return insert;
+    }
+    case Qt::Key_Apostrophe: {
+        const bool copy = !ctrl && current.isValid() && current.row() > 0;
+        if (copy)
+            copyFromAbove();
+        return copy;
+    }
+    default:
+        return false;
+    }
+}
+
+void RegisterScreen::onEnter()
+{
+    const QModelIndex current = m_view->currentIndex();
+    if (!current.isValid() || m_view->activeEditor()) {
+        advanceToNextField();
+        return;
+    }
+    startEditingRow(current.row());
+    if (current.flags() & Qt::ItemIsEditable)
+        m_view->edit(current);
+}
+
+void RegisterScreen::insertNew()
+{
+    m_view->dropActiveEditor();
+    m_model->resetInsertionBuffers();
+    m_model->setEditRow(-1);
+    const QModelIndex target = m_model->index(m_model->insertionRow(), RegisterColumn::Date);
+    m_view->scrollTo(target, QAbstractItemView::EnsureVisible);
+    m_view->setCurrentIndex(target);
+    m_view->edit(target);
+}
+
+void RegisterScreen::deleteCurrentRow()
+{
+    const QModelIndex current = m_view->currentIndex();
+    if (!current.isValid())
+        return;
+    if (current.row() != m_model->insertionRow()) {
+        deleteRow(current.row());
+        return;
+    }
+    m_view->dropActiveEditor();
+    m_model->resetInsertionBuffers();
+    Q_EMIT m_model->dataChanged(current.siblingAtColumn(0),
+                                current.siblingAtColumn(RegisterColumn::kCount - 1));
+    const QModelIndex first = current.siblingAtColumn(RegisterColumn::Date);
+    m_view->setCurrentIndex(first);
+    m_view->edit(first);
+    showMessage(tr("Fields cleared"));
+}
+
+// The bound takes the insertion row for the last one. With newest first it stands on top, so the
+// oldest transaction is spared there and reached only after a change of sort; the row actions share
+// the bound, so that they agree on what they reach.
+bool RegisterScreen::withinActionBound(int row) const
+{
+    return row >= 0 && row < m_model->rowCount() - 1 && m_model->rowAt(row);
+}
+
+void RegisterScreen::deleteRow(int row)
+{
+    if (!withinActionBound(row))
+        return;
+    const Transaction transaction = *m_model->rowAt(row);
+    if (confirmAndDeleteTransaction(*m_appState, transaction, this))
+        refreshAfterWrite();
+}
+
+void RegisterScreen::showDetails(int row)
+{
+    if (!withinActionBound(row))
+        return;
+    TransactionDetailsDialog dialog(m_appState, *m_model->rowAt(row), this);
+    dialog.exec();
+    refreshAfterWrite();
+}
+
+void RegisterScreen::toggleCleared(int row)
+{
+    const RegisterRow *stored = m_model->rowAt(row);
+    if (!stored)
+        return;
+    Transaction changed = *stored;
+    changed.cleared = !changed.cleared;
+    changed.updated_at = currentStamp();
+    changed.sync_status = SyncStatus::Pending;
+    m_appState->transactions()->update(changed);
+    refreshAfterWrite();
+}
+
+void RegisterScreen::onContextMenu(QPoint pos)
+{
+    QMenu menu(this);
+    menu.setObjectName(u"registerMenu"_s);
+    const auto add = [this, &menu](const QString &text, const QKeySequence &shortcut,
+                                   const auto &act) {
+        QAction *action = menu.addAction(text);
+        action->setShortcut(shortcut);
+        action->setShortcutVisibleInContextMenu(true); // shown only: the grid itself hears the key
+        connect(action, &QAction::triggered, this, act);
+    };
+    add(tr("&Insert New"), QKeySequence(u"Ctrl+I"_s), [this] { insertNew(); });
+    const int row = m_view->indexAt(pos).row();
+    if (const RegisterRow *stored = m_model->rowAt(row)) {
+        menu.addSeparator();
+        add(tr("Show &Details..."), QKeySequence(u"Alt+Return"_s), [this, row] { showDetails(row); });
+        add(stored->cleared ? tr("Mark &Uncleared") : tr("Mark &Cleared"), {},
+            [this, row] { toggleCleared(row); });
+        add(tr("&Delete"), QKeySequence(u"Ctrl+D"_s), [this, row] { deleteRow(row); });
+    }
+    menu.exec(m_view->viewport()->mapToGlobal(pos));
+}
+
+void RegisterScreen::showHeaderContextMenu(QPoint pos)
+{
+    m_columnLayout->showHeaderMenu(pos);
+}
+
+void RegisterScreen::resetColumnLayout()
+{
+    m_columnLayout->reset();
+}

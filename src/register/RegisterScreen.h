@@ -1,0 +1,106 @@
+#pragma once
+
+#include "register/RegisterNavigator.h"
+
+#include <QWidget>
+
+class AppState;
+class BalanceLabel;
+class ElidedLabel;
+class QLabel;
+class QModelIndex;
+class QPushButton;
+class RegisterColumnLayout;
+class RegisterDelegate;
+class RegisterModel;
+class RegisterTableView;
+struct Account;
+struct RegisterRow;
+
+// The register of one account: a grid in which a transaction is typed from left to right and saved
+// without the mouse. A row is written by commitCurrentRow() alone; moving on to another row drops
+// what was typed.
+class RegisterScreen : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RegisterScreen(AppState *appState, QWidget *parent = nullptr); // not owned
+
+    void setAccount(const QString &accountId); // and puts the cursor where the next row is typed
+    const QString &accountId() const { return m_accountId; }
+    // Reads everything anew, and drops what was typed; does nothing while an editor is open.
+    void refresh();
+    void goToInsertionRow();
+    void showMessage(const QString &text, int milliseconds = 3000);
+
+    void moveToNextField();
+    void moveToPreviousField();
+    bool focusNextPrevChild(bool next) override;
+
+Q_SIGNALS:
+    void newTransactionRequested(const QString &accountId);
+    void editTransactionRequested(const QString &transactionId);
+    void reconcileRequested(const QString &accountId); // by the Reconcile button
+    void errorMessage(const QString &text); // for the window's status bar
+
+public Q_SLOTS:
+    void onContextMenu(QPoint pos);
+    void commitCurrentRow();
+    void deleteCurrentRow();
+    void copyFromAbove();
+    void advanceToNextField();
+    void advanceToPreviousField();
+    void startEditingRow(int row);
+    void showHeaderContextMenu(QPoint pos);
+    void resetColumnLayout();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    // Where the cursor and the top of the view stand, by row and by transaction.
+    struct Position
+    {
+        QString currentId{};
+        int currentRow = -1;
+        int currentColumn = 0;
+        QString topId{};
+        int topRow = -1;
+    };
+
+    QWidget *buildHeader();
+    QWidget *buildFooter();
+    void setUpView();
+    void connectView();
+
+    bool handleKey(const QKeyEvent &key);
+    void onEnter();
+    void onClicked(const QModelIndex &index);
+    void insertNew();
+    void showDetails(int row);
+    void deleteRow(int row);
+    void toggleCleared(int row);
+
+    bool withinActionBound(int row) const;
+    bool splitLinesOwn(const QModelIndex &index) const;
+    void refreshAfterWrite();
+    void showAccount(const Account &account, const QList<RegisterRow> &rows);
+    void applyTwoLineMode();
+    Position position() const;
+    void restorePosition(const Position &position);
+    int rowOf(const QString &transactionId, int rememberedRow) const;
+
+    AppState *m_appState;
+    QString m_accountId;
+    RegisterModel *m_model;
+    RegisterTableView *m_view;
+    RegisterDelegate *m_delegate;
+    RegisterColumnLayout *m_columnLayout = nullptr;
+    RegisterNavigator m_navigator;
+    ElidedLabel *m_titleLabel;
+    QLabel *m_subtitleLabel;
+    BalanceLabel *m_balanceLabel;
+    QLabel *m_messageLabel;
+    QPushButton *m_reconcileButton;
+};

@@ -1,0 +1,132 @@
+#include "register/RegisterTableView.h"
+
+#include "register/PayeeMemoEditor.h"
+#include "register/RegisterColumn.h"
+#include "register/RegisterScreen.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTimer>
+
+namespace {
+
+bool isTabKey(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+}
+
+bool goesBack(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Backtab || key.modifiers() & Qt::ShiftModifier;
+}
+
+} // namespace
+
+RegisterTableView::RegisterTableView(RegisterScreen *screen, QWidget *parent)
+    : QTableView(parent)
+    , m_screen(screen)
+{
+}
+
+QWidget *RegisterTableView::activeEditor() const
+{
+    return isEditing() ? indexWidget(currentIndex()) : nullptr;
+}
+
+void RegisterTableView::dropActiveEditor()
+{
+    if (QWidget *editor = activeEditor())
+        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+}
+
+bool RegisterTableView::event(QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        return QTableView::event(event);
+
+    // A key that overtakes the hop belongs to the cell that the hop leads to.
+    if (m_hop != Hop::None) {
+        finishHop();
+        QWidget *focused = QApplication::focusWidget();
+        if (focused && focused != this && isAncestorOf(focused))
+            return QCoreApplication::sendEvent(focused, event);
+    }
+    const auto &key = *static_cast<QKeyEvent *>(event);
+    if (event->type() != QEvent::KeyPress || !isTabKey(key)
+        || PayeeMemoEditor::around(QApplication::focusWidget()))
+        return QTableView::event(event);
+
+    // With no editor open, Tab walks like the arrow keys and opens the cell that it comes to.
+    QKeyEvent step(QEvent::KeyPress, goesBack(key) ? Qt::Key_Left : Qt::Key_Right, Qt::NoModifier);
+    QTableView::event(&step);
+    if (currentIndex().isValid())
+        edit(currentIndex());
+    return true;
+}
+
+void RegisterTableView::keyPressEvent(QKeyEvent *event)
+{
+    if (isTabKey(*event)) {
+        moveToField(!goesBack(*event));
+        event->accept();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+bool RegisterTableView::focusNextPrevChild(bool next)
+{
+    if (!m_screen)
+        return QTableView::focusNextPrevChild(next);
+    if (PayeeMemoEditor::around(QApplication::focusWidget()))
+        return m_screen->focusNextPrevChild(next);
+    moveToField(next);
+    return true;
+}
+
+void RegisterTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const bool hops = hint == QAbstractItemDelegate::EditNextItem
+        || hint == QAbstractItemDelegate::EditPreviousItem;
+    // The view sees the focus of a plain editor only. One that hides with the focus inside it would
+    // pass it on to the next field, and so open that.
+    const QWidget *focused = QApplication::focusWidget();
+    if (editor && focused != editor && editor->isAncestorOf(focused))
+        setFocus();
+    if (!hops || !m_screen) {
+        QTableView::closeEditor(editor, hint);
+        return;
+    }
+    m_hopFrom = currentIndex();
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    // The view has to be done with the old editor before the next one opens.
+    m_hop = hint == QAbstractItemDelegate::EditNextItem ? Hop::Next : Hop::Previous;
+    QTimer::singleShot(0, this, &RegisterTableView::finishHop);
+}
+
+void RegisterTableView::finishHop()
+{
+    const Hop hop = std::exchange(m_hop, Hop::None);
+    if (hop == Hop::None || !m_hopFrom.isValid())
+        return;
+    setCurrentIndex(m_hopFrom);
+    moveToField(hop == Hop::Next);
+}
+
+void RegisterTableView::moveToField(bool next)
+{
+    if (!m_screen)
+        return;
+    if (next)
+        m_screen->moveToNextField();
+    else
+        m_screen->moveToPreviousField();
+}
+
+QModelIndex RegisterTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const QModelIndex index = QTableView::moveCursor(action, modifiers);
+    return index.column() == RegisterColumn::Balance
+        ? index.siblingAtColumn(RegisterColumn::kLastNavigable)
+        : index;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QTableView>
+
+class RegisterScreen;
+
+// The table of the register. It hands Tab to the screen's own way from cell to cell and keeps the
+// cursor out of the Balance column.
+class RegisterTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    // The screen is not owned; null leaves the keys to the base class.
+    explicit RegisterTableView(RegisterScreen *screen, QWidget *parent = nullptr);
+
+    bool isEditing() const { return state() == EditingState; }
+    QWidget *activeEditor() const; // at the current cell, or null
+    void dropActiveEditor(); // closes it without taking its text
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+
+private:
+    enum class Hop { None, Next, Previous };
+
+    void moveToField(bool next);
+    void finishHop();
+
+    RegisterScreen *m_screen;
+    Hop m_hop = Hop::None; // a move to the next cell that waits for the editor to be gone
+    QPersistentModelIndex m_hopFrom;
+};
