@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QWidget>
+
+struct Account;
+
+// One account in the sidebar: its icon, name and balance, and a line about what it is. Dark in both
+// themes, like the sidebar.
+class AccountListRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    AccountListRow(const Account &account, qint64 balance, QWidget *parent = nullptr);
+
+private:
+    static QString typeName(const Account &account);
+    static QString describe(const Account &account);
+};

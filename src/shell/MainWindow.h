@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QMainWindow>
+#include <QTimer>
+
+class AccountList;
+class AppState;
+class EmptyPage;
+class QLabel;
+class QListWidgetItem;
+class QMenu;
+class QShortcut;
+class QSplitter;
+class QStackedWidget;
+class RegisterScreen;
+class StatusBar;
+class WelcomeScreen;
+struct Account;
+
+// The one main window: the sidebar with the accounts beside a stack of pages, of which the register
+// is the main one. It turns requests into navigation and owns what happens to whole accounts.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(AppState *appState, QWidget *parent = nullptr);
+
+public Q_SLOTS:
+    void onAccountClicked(QListWidgetItem *item);
+    void onAccountsChanged();
+    void selectAccount(const QString &accountId);
+    void showNewAccountDialog();
+    void showEditAccountDialog();
+    void onAccountContextMenu(QPoint pos); // in the list's viewport
+    void deleteAccount(const QString &accountId);
+    void deleteCurrentAccount();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void buildPages();
+    void buildSidebar();
+    void buildSplitter();
+    void connectChanges();
+    void restoreWindowGeometry();
+
+    void buildMenus();
+    void buildFileMenu();
+    void buildAccountMenu();
+    void buildHelpMenu();
+    QAction *addMenuAction(QMenu *menu, const QString &name, const QString &text);
+    void showAboutBox();
+    void showShortcutsBox();
+
+    void populateAccountList();
+    void schedulePopulate();
+    void onPopulateTimeout();
+    void rebuildAccountShortcuts();
+    void fitListRows();
+    void onRowsMoved();
+    void applyTheme();
+    void addAccountEntries(QMenu *menu, const QString &accountId);
+
+    void restoreInitialView();
+    void showNothingOpen();
+    void showSelectAccountFirst();
+    bool confirmDelete(const Account &account);
+    void deleteWithDependents(const QString &accountId);
+    void insertOpeningBalance(const QString &accountId, QDate date, qint64 amount);
+
+    AppState *m_appState;
+    AccountList *m_accountList = nullptr;
+    QSplitter *m_splitter = nullptr;
+    QLabel *m_totalLabel = nullptr;
+    QList<QShortcut *> m_accountShortcuts{};
+    WelcomeScreen *m_welcomeScreen = nullptr;
+    RegisterScreen *m_registerScreen = nullptr;
+    EmptyPage *m_emptyPage = nullptr;
+    QStackedWidget *m_stack = nullptr;
+    StatusBar *m_statusBar = nullptr;
+    QTimer m_populateTimer{}; // gathers the notifications of one turn of the event loop
+};

@@ -1,0 +1,147 @@
+// The menu bar of the main window and its two help boxes.
+
+#include "shell/MainWindow.h"
+
+#include "core/Deployment.h"
+#include "core/Feedback.h"
+#include "shell/FeedbackPage.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString keyText(const QString &keys)
+{
+    return QKeySequence(keys).toString();
+}
+
+// In the accent colour: the platform's own blue is unreadable on the dark palette.
+QString linkTo(const QString &address)
+{
+    return u"<a href=\"%1\" style=\"color: %2\">%1</a>"_s.arg(
+        address, QGuiApplication::palette().color(QPalette::Highlight).name());
+}
+
+} // namespace
+
+void MainWindow::buildMenus()
+{
+    buildFileMenu();
+    buildAccountMenu();
+    buildHelpMenu();
+}
+
+QAction *MainWindow::addMenuAction(QMenu *menu, const QString &name, const QString &text)
+{
+    QAction *action = menu->addAction(text);
+    action->setObjectName(name);
+    return action;
+}
+
+void MainWindow::buildFileMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&File"));
+    menu->setObjectName(u"fileMenu"_s);
+    QAction *newAccount = addMenuAction(menu, u"newAccountAction"_s, tr("New &Account"));
+    newAccount->setShortcut(QKeySequence(u"Ctrl+Shift+N"_s));
+    connect(newAccount, &QAction::triggered, this, &MainWindow::showNewAccountDialog);
+    menu->addSeparator();
+    QAction *quit = addMenuAction(menu, u"quitAction"_s, tr("&Quit"));
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, qApp, &QApplication::quit);
+}
+
+void MainWindow::buildAccountMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Account"));
+    menu->setObjectName(u"accountMenu"_s);
+    connect(addMenuAction(menu, u"editAccountAction"_s, tr("&Edit...")), &QAction::triggered, this,
+            &MainWindow::showEditAccountDialog);
+    menu->addSeparator();
+    connect(addMenuAction(menu, u"deleteAccountAction"_s, tr("&Delete")), &QAction::triggered, this,
+            &MainWindow::deleteCurrentAccount);
+}
+
+void MainWindow::buildHelpMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    menu->setObjectName(u"helpMenu"_s);
+    connect(addMenuAction(menu, u"aboutAction"_s, tr("&About Kestrelwood Pursewell")),
+            &QAction::triggered, this, &MainWindow::showAboutBox);
+    connect(addMenuAction(menu, u"feedbackAction"_s, tr("Send &Feedback...")), &QAction::triggered,
+            this, [] { openFeedbackPage(feedbackConfig()); });
+    menu->addSeparator();
+    connect(addMenuAction(menu, u"shortcutsAction"_s, tr("&Keyboard Shortcuts")),
+            &QAction::triggered, this, &MainWindow::showShortcutsBox);
+}
+
+void MainWindow::showAboutBox()
+{
+    const QStringList paragraphs{
+        u"<h3>%1</h3>"_s.arg(tr("Kestrelwood Pursewell")),
+        u"<p>%1</p>"_s.arg(tr("Version %1").arg(QCoreApplication::applicationVersion())),
+        u"<p>%1</p>"_s.arg(tr("A digital pursewell register for tracking household finances.")),
+        u"<p>%1<br>%2</p>"_s.arg(tr("Made and owned by Kestrelwood."), linkTo(kProductUrl)),
+        u"<p><small>%1<br>%2</small></p>"_s.arg(
+            tr("This application uses the Qt framework under the LGPL v3 license."),
+            tr("Its source code is available at %1").arg(linkTo(kSourceUrl))),
+    };
+    QMessageBox box(QMessageBox::NoIcon, tr("About Kestrelwood Pursewell"), paragraphs.join(u""_s),
+                    QMessageBox::Ok, this);
+    box.setObjectName(u"aboutBox"_s);
+    box.setTextFormat(Qt::RichText);
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    box.exec();
+}
+
+void MainWindow::showShortcutsBox()
+{
+    const QString text =
+        tr("<h3>Register</h3>"
+           "<table cellspacing='6'>"
+           "<tr><td><b>%1</b></td><td>Save transaction</td></tr>"
+           "<tr><td><b>%2</b></td><td>Insert new transaction</td></tr>"
+           "<tr><td><b>%3</b></td><td>Delete current transaction</td></tr>"
+           "<tr><td><b>Tab / Shift+Tab</b></td><td>Next / previous field</td></tr>"
+           "<tr><td><b>' (apostrophe)</b></td><td>Copy value from field above</td></tr>"
+           "</table>"
+           "<h3>Date Field</h3>"
+           "<table cellspacing='6'>"
+           "<tr><td><b>t</b></td><td>Today</td></tr>"
+           "<tr><td><b>+ / -</b></td><td>Next / previous day</td></tr>"
+           "<tr><td><b>m / h</b></td><td>First / last day of month</td></tr>"
+           "<tr><td><b>y / r</b></td><td>First / last day of year</td></tr>"
+           "<tr><td><b>w / k</b></td><td>First / last day of week</td></tr>"
+           "</table>"
+           "<h3>General</h3>"
+           "<table cellspacing='6'>"
+           "<tr><td><b>%4</b></td><td>New transaction</td></tr>"
+           "<tr><td><b>%5</b></td><td>New account</td></tr>"
+           "<tr><td><b>%6</b></td><td>Reconcile account</td></tr>"
+           "<tr><td><b>%7</b></td><td>Search transactions</td></tr>"
+           "<tr><td><b>%8</b></td><td>Import</td></tr>"
+           "<tr><td><b>%9</b></td><td>Reports</td></tr>"
+           "<tr><td><b>%10</b></td><td>Recurring transactions</td></tr>"
+           "<tr><td><b>%11</b></td><td>Categories</td></tr>"
+           "</table>"
+           "<h3>Accounts</h3>"
+           "<table cellspacing='6'>"
+           "<tr><td><b>%12 &ndash; %13</b></td><td>Switch to account 1&ndash;9</td></tr>"
+           "<tr><td><b>%14</b></td><td>Switch to account 10</td></tr>"
+           "</table>")
+            .arg(keyText(u"Ctrl+Return"_s), keyText(u"Ctrl+N"_s), keyText(u"Ctrl+D"_s),
+                 keyText(u"Ctrl+N"_s), keyText(u"Ctrl+Shift+N"_s), keyText(u"Ctrl+R"_s),
+                 keyText(u"Ctrl+F"_s), keyText(u"Ctrl+I"_s), keyText(u"Ctrl+2"_s),
+                 keyText(u"Ctrl+3"_s), keyText(u"Ctrl+4"_s), keyText(u"Alt+1"_s),
+                 keyText(u"Alt+9"_s), keyText(u"Alt+0"_s));
+    QMessageBox box(QMessageBox::Information, tr("Keyboard Shortcuts"), text, QMessageBox::Ok,
+                    this);
+    box.setObjectName(u"shortcutsBox"_s);
+    box.setTextFormat(Qt::RichText);
+    box.exec();
+}
