@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+// Something the program does and its counterpart, which together make one line of the table.
+struct Pair
+{
+    std::function<void()> prepare{}; // runs before each measurement, not measured; may be empty
+    std::function<void()> program{};
+    std::function<void()> counterpart{};
+};
+
+// A pair's line: what it is called, and the ratio wanted at most, 0 where none is.
+struct PairLine
+{
+    std::string name{};
+    double wanted_ratio = 0;
+};
+
+// Registers a line. `build` runs when its turn comes, and what it returns lives until the line is
+// measured. Program and counterpart take turns, so that a busy machine slows both alike.
+void registerPair(const PairLine &line, std::function<Pair()> build);
+
+// Runs what is registered and prints the table of medians.
+void runPairs();

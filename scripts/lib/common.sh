@@ -1,0 +1,82 @@
+# shellcheck shell=bash
+# shellcheck disable=SC2164 # errexit is on
+# What every script of this folder shares. Sourced, never run; expects "set -euo pipefail".
+
+repository_root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
+script_name=scripts/$(basename -- "$0")
+current_step="starting"
+
+# The precompiled headers and the time macros of Qt's headers would make ccache miss every file.
+export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros,include_file_mtime,include_file_ctime}
+
+set -o errtrace
+trap 'report_failed_step $?' ERR
+
+step() {
+  current_step=$1
+  printf '==> %s\n' "$current_step"
+}
+
+report_failed_step() {
+  # A failing command in a command substitution reaches the trap twice, inside and outside of it.
+  [ "$BASH_SUBSHELL" -eq 0 ] || return 0
+  printf '%s: failed with exit code %d while: %s\n' "$script_name" "$1" "$current_step" >&2
+}
+
+die() {
+  printf '%s: %s\n' "$script_name" "$1" >&2
+  exit 1
+}
+
+# packages_of <group>...: the names that scripts/packages.txt lists under these groups.
+packages_of() {
+  awk -v wanted=" $* " '
+    { sub(/#.*/, ""); gsub(/[ \t]/, "") }
+    /^\[.*\]$/ { listed = index(wanted, " " substr($0, 2, length($0) - 2) " "); next }
+    listed && NF' "$repository_root/scripts/packages.txt"
+}
+
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  else
+    sudo "$@"
+  fi
+}
+
+# install_packages <group>...: installs what is not there yet; touches the network only then.
+install_packages() {
+  step "looking for the packages to: $*"
+  local -a wanted missing=()
+  mapfile -t wanted < <(packages_of "$@")
+  if ! command -v dpkg-query >/dev/null; then
+    printf 'This system has no dpkg; it must bring the like of: %s\n' "${wanted[*]}"
+    return
+  fi
+  local package
+  for package in "${wanted[@]}"; do
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] \
+      || missing+=("$package")
+  done
+  if [ "${#missing[@]}" -eq 0 ]; then
+    return
+  fi
+  step "installing: ${missing[*]}"
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+  as_root env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# build_preset <preset>: configures and builds build/<preset>.
+build_preset() {
+  cd -- "$repository_root"
+  step "configuring build/$1"
+  cmake --preset "$1"
+  step "building build/$1"
+  cmake --build --preset "$1"
+}
+
+# The program as build_preset <preset> left it.
+program_of() {
+  printf '%s/build/%s/src/core/program/pursewell\n' "$repository_root" "$1"
+}
