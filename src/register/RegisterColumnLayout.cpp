@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kDefaultWidths[RegisterColumn::kCount]
-    = {130, 60, 250, 180, 180, 100, 100, 35, 110}; // pixels
+constexpr int kDefaultWidths[RegisterColumn::kCount] = {130, 60,  250, 180, 180,
+                                                        100, 100, 35,  110}; // pixels
 
 QString widthKey(int column)
 {
@@ -59,8 +59,8 @@ RegisterColumnLayout::RegisterColumnLayout(AppState *appState, QTableView *view,
                 if (key != u"registerNewestFirst"_s)
                     return;
                 const bool newestFirst = m_appState->preferences()->getBool(key, false);
-                m_view->sortByColumn(RegisterColumn::Date, newestFirst ? Qt::DescendingOrder
-                                                                       : Qt::AscendingOrder);
+                m_view->sortByColumn(RegisterColumn::Date,
+                                     newestFirst ? Qt::DescendingOrder : Qt::AscendingOrder);
             });
     apply();
 }
@@ -85,8 +85,8 @@ void RegisterColumnLayout::apply()
     setTwoLineMode(m_twoLineMode);
 
     if (!settings.contains(u"register/sortColumn"_s)) {
-        const bool newestFirst
-            = m_appState->preferences()->getBool(u"registerNewestFirst"_s, false);
+        const bool newestFirst =
+            m_appState->preferences()->getBool(u"registerNewestFirst"_s, false);
         m_view->sortByColumn(RegisterColumn::Date,
                              newestFirst ? Qt::DescendingOrder : Qt::AscendingOrder);
         return;
@@ -123,8 +123,7 @@ void RegisterColumnLayout::showHeaderMenu(QPoint position)
     menu.setObjectName(u"registerHeaderMenu"_s);
     menu.addSection(tr("Show columns"));
     for (int column = 0; column < RegisterColumn::kCount; ++column) {
-        QAction *action
-            = menu.addAction(m_model->headerData(column, Qt::Horizontal).toString());
+        QAction *action = menu.addAction(m_model->headerData(column, Qt::Horizontal).toString());
         action->setCheckable(true);
         action->setChecked(!m_view->isColumnHidden(column));
         action->setEnabled(!alwaysShown(column)

@@ -295,6 +295,6 @@ void RegisterModel::loadRowIntoBuffers(int modelRow)
 void RegisterModel::resetInsertionBuffers()
 {
     m_buffers = {};
-    m_buffers.date = m_lastEnteredDate.isEmpty() ? DateInput::toText(QDate::currentDate())
-                                                 : m_lastEnteredDate;
+    m_buffers.date =
+        m_lastEnteredDate.isEmpty() ? DateInput::toText(QDate::currentDate()) : m_lastEnteredDate;
 }

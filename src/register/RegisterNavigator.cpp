@@ -31,8 +31,8 @@ void RegisterNavigator::commitActiveEditor()
 
 int RegisterNavigator::columnAfter(int column) const
 {
-    const int first = column == RegisterColumn::Balance ? RegisterColumn::kFirstNavigable
-                                                        : column + 1;
+    const int first =
+        column == RegisterColumn::Balance ? RegisterColumn::kFirstNavigable : column + 1;
     for (int next = first; next <= RegisterColumn::kLastNavigable; ++next) {
         if (!m_view->isColumnHidden(next))
             return next;

@@ -1,7 +1,6 @@
 #include "register/RegisterScreen.h"
 
 #include "core/Dates.h"
-#include "core/Money.h"
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "data/PreferencesRepository.h"
@@ -10,14 +9,14 @@
 #include "register/RegisterColumn.h"
 #include "register/RegisterColumnLayout.h"
 #include "register/RegisterDelegate.h"
+#include "register/RegisterHeader.h"
 #include "register/RegisterLineEdit.h"
 #include "register/RegisterModel.h"
+#include "register/RegisterPosition.h"
 #include "register/RegisterRowWriter.h"
 #include "register/RegisterTableView.h"
 #include "register/TransactionDeletion.h"
 #include "register/TransactionDetailsDialog.h"
-#include "shell/theme/BalanceLabel.h"
-#include "shell/theme/ElidedLabel.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/MoneyColors.h"
 
@@ -27,7 +26,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -37,13 +35,13 @@ namespace {
 
 constexpr int kMargin = 24; // pixels
 
-template <typename Label>
-Label *makeLabel(QWidget *parent, const QString &objectName, int fontRole)
+QLabel *makeFooterLabel(QWidget *parent, const QString &objectName, const QString &color)
 {
-    auto *label = new Label(parent);
+    auto *label = new QLabel(parent);
     label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText); // names of accounts are a person's words
-    applyFontRole(label, fontRole);
+    label->setTextFormat(Qt::PlainText);
+    label->setStyleSheet(u"color: %1; padding: 2px 4px;"_s.arg(color));
+    applyFontRole(label, FontRole::Body);
     return label;
 }
 
@@ -61,43 +59,21 @@ RegisterScreen::RegisterScreen(AppState *appState, QWidget *parent)
     , m_view(new RegisterTableView(this, this))
     , m_delegate(new RegisterDelegate(appState, m_model, this))
     , m_navigator(m_view, m_model)
-    , m_titleLabel(makeLabel<ElidedLabel>(this, u"titleLabel"_s, FontRole::Title))
-    , m_subtitleLabel(makeLabel<QLabel>(this, u"subtitleLabel"_s, FontRole::Caption))
-    , m_balanceLabel(makeLabel<BalanceLabel>(this, u"balanceLabel"_s, FontRole::Heading))
-    , m_messageLabel(makeLabel<QLabel>(this, u"messageLabel"_s, FontRole::Body))
-    , m_reconcileButton(new QPushButton(tr("Reconcile"), this))
+    , m_header(new RegisterHeader(this))
+    , m_messageLabel(makeFooterLabel(this, u"messageLabel"_s, mutedColor().name()))
 {
     setUpView();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->addWidget(buildHeader());
-    layout->addWidget(m_subtitleLabel);
+    layout->addWidget(m_header);
     layout->addSpacing(8);
     layout->addWidget(m_view, 1);
     layout->addWidget(buildFooter());
     connectView();
+    connect(m_header, &RegisterHeader::reconcileClicked, this,
+            [this] { Q_EMIT reconcileRequested(m_accountId); });
     m_columnLayout = new RegisterColumnLayout(appState, m_view, m_model, this);
     setFocusProxy(m_view);
-}
-
-QWidget *RegisterScreen::buildHeader()
-{
-    auto *header = new QWidget(this);
-    auto *row = new QHBoxLayout(header);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(16);
-    m_balanceLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_subtitleLabel->setStyleSheet(u"color: %1;"_s.arg(mutedColor().name()));
-    m_reconcileButton->setObjectName(u"reconcileButton"_s);
-    m_reconcileButton->setFocusPolicy(Qt::ClickFocus);
-    m_reconcileButton->hide(); // there is no window yet in which to reconcile
-    connect(m_reconcileButton, &QPushButton::clicked, this,
-            [this] { Q_EMIT reconcileRequested(m_accountId); });
-    row->addWidget(m_titleLabel);
-    row->addStretch();
-    row->addWidget(m_balanceLabel);
-    row->addWidget(m_reconcileButton);
-    return header;
 }
 
 QWidget *RegisterScreen::buildFooter()
@@ -105,10 +81,7 @@ QWidget *RegisterScreen::buildFooter()
     auto *footer = new QWidget(this);
     auto *row = new QHBoxLayout(footer);
     row->setContentsMargins(0, 0, 0, 0);
-    const QString style = u"color: %1; padding: 2px 4px;"_s;
-    m_messageLabel->setStyleSheet(style.arg(mutedColor().name()));
-    QLabel *hint = makeLabel<QLabel>(footer, u"hintLabel"_s, FontRole::Body);
-    hint->setStyleSheet(style.arg(u"#5A7A6E"_s));
+    QLabel *hint = makeFooterLabel(footer, u"hintLabel"_s, u"#5A7A6E"_s);
     hint->setText(
         tr("%1: save  |  Enter: next  |  %2: delete  |  %3: memorize  |  ': copy above")
             .arg(nativeKeys(u"Ctrl+Return"_s), nativeKeys(u"Ctrl+D"_s), nativeKeys(u"Ctrl+M"_s)));
@@ -184,34 +157,19 @@ void RegisterScreen::refresh()
     const auto account = m_appState->accounts()->findById(m_accountId);
     if (!account)
         return;
-    const Position before = position();
+    const RegisterPosition before = RegisterPosition::of(*m_view, *m_model);
     QList<RegisterRow> rows = m_appState->transactions()->registerRows(m_accountId);
     applyTwoLineMode();
-    showAccount(*account, rows);
+    m_header->showAccount(*account,
+                          rows.isEmpty() ? account->starting_balance : rows.last().balance);
     m_model->setRows(std::move(rows));
-    restorePosition(before);
+    before.restore(*m_view, *m_model);
 }
 
 void RegisterScreen::refreshAfterWrite()
 {
     m_view->dropActiveEditor();
     refresh();
-}
-
-void RegisterScreen::showAccount(const Account &account, const QList<RegisterRow> &rows)
-{
-    m_titleLabel->setFullText(account.name);
-    QString subtitle = account.institution;
-    if (!account.account_number_last4.isEmpty())
-        subtitle += (subtitle.isEmpty() ? u"*%1"_s : u"  ·  *%1"_s).arg(
-            account.account_number_last4);
-    m_subtitleLabel->setText(subtitle);
-    m_subtitleLabel->setVisible(!subtitle.isEmpty());
-
-    const qint64 balance = rows.isEmpty() ? account.starting_balance : rows.last().balance;
-    m_balanceLabel->setText(formatMoney(balance, account.currency));
-    const QColor color = balance < 0 ? negativeColor() : positiveColor();
-    m_balanceLabel->setStyleSheet(u"color: %1;"_s.arg(color.name()));
 }
 
 void RegisterScreen::applyTwoLineMode()
@@ -225,49 +183,6 @@ void RegisterScreen::applyTwoLineMode()
     if (m_view->verticalHeader()->defaultSectionSize() != height)
         m_view->verticalHeader()->setDefaultSectionSize(height);
     m_view->viewport()->update();
-}
-
-RegisterScreen::Position RegisterScreen::position() const
-{
-    Position position;
-    const QModelIndex current = m_view->currentIndex();
-    if (current.isValid()) {
-        const RegisterRow *row = m_model->rowAt(current.row());
-        position.currentId = row ? row->id : QString();
-        position.currentRow = current.row();
-        position.currentColumn = current.column();
-    }
-    const QModelIndex top = m_view->indexAt(QPoint(0, 0));
-    if (top.isValid()) {
-        const RegisterRow *row = m_model->rowAt(top.row());
-        position.topId = row ? row->id : QString();
-        position.topRow = top.row();
-    }
-    return position;
-}
-
-int RegisterScreen::rowOf(const QString &transactionId, int rememberedRow) const
-{
-    const int count = m_model->rowCount();
-    for (int row = 0; row < count && !transactionId.isEmpty(); ++row) {
-        const RegisterRow *stored = m_model->rowAt(row);
-        if (stored && stored->id == transactionId)
-            return row;
-    }
-    return rememberedRow < 0 ? -1 : qMin(rememberedRow, count - 1);
-}
-
-void RegisterScreen::restorePosition(const Position &position)
-{
-    const int current = rowOf(position.currentId, position.currentRow);
-    const QModelIndex cursor = m_model->index(current, position.currentColumn);
-    if (cursor.isValid())
-        m_view->setCurrentIndex(cursor);
-    const int top = rowOf(position.topId, position.topRow);
-    if (top >= 0)
-        m_view->scrollTo(m_model->index(top, 0), QAbstractItemView::PositionAtTop);
-    if (cursor.isValid())
-        m_view->scrollTo(cursor, QAbstractItemView::EnsureVisible);
 }
 
 void RegisterScreen::goToInsertionRow()
@@ -301,8 +216,7 @@ void RegisterScreen::startEditingRow(int row)
 
 bool RegisterScreen::splitLinesOwn(const QModelIndex &index) const
 {
-    return m_model->isSplitRow(index.row())
-        && RegisterColumn::belongsToSplitLines(index.column());
+    return m_model->isSplitRow(index.row()) && RegisterColumn::belongsToSplitLines(index.column());
 }
 
 void RegisterScreen::onClicked(const QModelIndex &index)
@@ -569,7 +483,8 @@ void RegisterScreen::onContextMenu(QPoint pos)
     const int row = m_view->indexAt(pos).row();
     if (const RegisterRow *stored = m_model->rowAt(row)) {
         menu.addSeparator();
-        add(tr("Show &Details..."), QKeySequence(u"Alt+Return"_s), [this, row] { showDetails(row); });
+        add(tr("Show &Details..."), QKeySequence(u"Alt+Return"_s),
+            [this, row] { showDetails(row); });
         add(stored->cleared ? tr("Mark &Uncleared") : tr("Mark &Cleared"), {},
             [this, row] { toggleCleared(row); });
         add(tr("&Delete"), QKeySequence(u"Ctrl+D"_s), [this, row] { deleteRow(row); });

@@ -5,17 +5,13 @@
 #include <QWidget>
 
 class AppState;
-class BalanceLabel;
-class ElidedLabel;
 class QLabel;
 class QModelIndex;
-class QPushButton;
 class RegisterColumnLayout;
 class RegisterDelegate;
+class RegisterHeader;
 class RegisterModel;
 class RegisterTableView;
-struct Account;
-struct RegisterRow;
 
 // The register of one account: a grid in which a transaction is typed from left to right and saved
 // without the mouse. A row is written by commitCurrentRow() alone; moving on to another row drops
@@ -59,17 +55,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    // Where the cursor and the top of the view stand, by row and by transaction.
-    struct Position
-    {
-        QString currentId{};
-        int currentRow = -1;
-        int currentColumn = 0;
-        QString topId{};
-        int topRow = -1;
-    };
-
-    QWidget *buildHeader();
     QWidget *buildFooter();
     void setUpView();
     void connectView();
@@ -85,11 +70,7 @@ private:
     bool withinActionBound(int row) const;
     bool splitLinesOwn(const QModelIndex &index) const;
     void refreshAfterWrite();
-    void showAccount(const Account &account, const QList<RegisterRow> &rows);
     void applyTwoLineMode();
-    Position position() const;
-    void restorePosition(const Position &position);
-    int rowOf(const QString &transactionId, int rememberedRow) const;
 
     AppState *m_appState;
     QString m_accountId;
@@ -98,9 +79,6 @@ private:
     RegisterDelegate *m_delegate;
     RegisterColumnLayout *m_columnLayout = nullptr;
     RegisterNavigator m_navigator;
-    ElidedLabel *m_titleLabel;
-    QLabel *m_subtitleLabel;
-    BalanceLabel *m_balanceLabel;
+    RegisterHeader *m_header;
     QLabel *m_messageLabel;
-    QPushButton *m_reconcileButton;
 };

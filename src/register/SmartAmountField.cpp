@@ -12,8 +12,8 @@ SmartAmountField::SmartAmountField(QWidget *parent)
 
 void SmartAmountField::keyPressEvent(QKeyEvent *event)
 {
-    const QString point = locale().decimalPoint().isEmpty() ? QString(u'.')
-                                                            : locale().decimalPoint().left(1);
+    const QString point =
+        locale().decimalPoint().isEmpty() ? QString(u'.') : locale().decimalPoint().left(1);
     const QString typed = event->text().left(1);
     // Either point jumps to the cents: the one on the number pad need not be the locale's.
     if (typed == point || typed == u'.' || typed == u',') {

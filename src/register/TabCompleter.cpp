@@ -41,8 +41,8 @@ void TabCompleter::takeHighlighted()
     if (auto *line = qobject_cast<QLineEdit *>(widget())) {
         line->setText(text);
     } else if (auto *combo = qobject_cast<QComboBox *>(widget())) {
-        const int found = combo->findData(text, Qt::DisplayRole,
-                                          Qt::MatchExactly | Qt::MatchCaseSensitive);
+        const int found =
+            combo->findData(text, Qt::DisplayRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
         if (found >= 0)
             combo->setCurrentIndex(found);
         else
@@ -61,8 +61,9 @@ void TabCompleter::leaveCell(const QKeyEvent &key)
         QAbstractItemDelegate *delegate = view->itemDelegate();
         QWidget *editor = widget();
         Q_EMIT delegate->commitData(editor);
-        Q_EMIT delegate->closeEditor(editor, back ? QAbstractItemDelegate::EditPreviousItem
-                                                  : QAbstractItemDelegate::EditNextItem);
+        Q_EMIT delegate->closeEditor(editor,
+                                     back ? QAbstractItemDelegate::EditPreviousItem
+                                          : QAbstractItemDelegate::EditNextItem);
         return;
     }
 }

@@ -34,8 +34,8 @@ bool confirmAndDeleteTransaction(const AppState &appState, const Transaction &tr
                                  QWidget *parent)
 {
     QMessageBox question(QMessageBox::Question, DeletionTexts::title(),
-                         DeletionTexts::question(transaction),
-                         QMessageBox::Yes | QMessageBox::No, parent);
+                         DeletionTexts::question(transaction), QMessageBox::Yes | QMessageBox::No,
+                         parent);
     question.setObjectName(u"deleteTransactionQuestion"_s);
     question.setTextFormat(Qt::PlainText); // a payee is a person's words
     if (question.exec() != QMessageBox::Yes)

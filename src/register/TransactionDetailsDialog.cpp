@@ -37,8 +37,7 @@ QLabel *makeLabel(QWidget *parent, const QString &text)
 
 QString stampText(const QDateTime &stamp)
 {
-    return stamp.isValid() ? QLocale().toString(stamp.toLocalTime(), QLocale::LongFormat)
-                           : u"—"_s;
+    return stamp.isValid() ? QLocale().toString(stamp.toLocalTime(), QLocale::LongFormat) : u"—"_s;
 }
 
 } // namespace
@@ -80,8 +79,8 @@ void TransactionDetailsDialog::buildFields(QFormLayout *form)
     addField(form, tr("Payee:"), m_transaction.payee, u"payeeValue"_s);
     const bool payment = m_transaction.amount < 0;
     const QString amount = formatMoney(absoluteMoney(m_transaction.amount));
-    QLabel *amountLabel
-        = addField(form, tr("Amount:"), payment ? u"- %1"_s.arg(amount) : amount, u"amountValue"_s);
+    QLabel *amountLabel =
+        addField(form, tr("Amount:"), payment ? u"- %1"_s.arg(amount) : amount, u"amountValue"_s);
     const QColor color = payment ? negativeColor() : positiveColor();
     amountLabel->setStyleSheet(u"color: %1; font-weight: 600;"_s.arg(color.name()));
     addField(form, tr("Category:"), categoryText(), u"categoryValue"_s);
@@ -164,8 +163,8 @@ void TransactionDetailsDialog::buildButtons(QVBoxLayout *layout)
         m_markButton->setObjectName(u"markButton"_s);
         connect(m_markButton, &QPushButton::clicked, this, [this] { toggleCleared(); });
     }
-    QPushButton *deleteButton
-        = buttons->addButton(tr("Delete..."), QDialogButtonBox::DestructiveRole);
+    QPushButton *deleteButton =
+        buttons->addButton(tr("Delete..."), QDialogButtonBox::DestructiveRole);
     deleteButton->setObjectName(u"deleteButton"_s);
     connect(deleteButton, &QPushButton::clicked, this, [this] { deleteTransaction(); });
     buttons->button(QDialogButtonBox::Close)->setDefault(true);

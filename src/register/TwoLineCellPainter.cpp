@@ -90,8 +90,8 @@ QRect memoRect(const QStyleOptionViewItem &option, const QModelIndex &index)
 
 void paintMemo(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index)
 {
-    const QString memo
-        = index.siblingAtColumn(RegisterColumn::Memo).data(Qt::DisplayRole).toString();
+    const QString memo =
+        index.siblingAtColumn(RegisterColumn::Memo).data(Qt::DisplayRole).toString();
     if (memo.isEmpty())
         return;
     QFont font = option.font;

@@ -9,6 +9,7 @@
 #include "data/AccountRepository.h"
 #include "data/ReconciliationRepository.h"
 #include "data/RecurringRepository.h"
+#include "data/SqlTransaction.h"
 #include "data/TransactionRepository.h"
 #include "register/AccountFormDialog.h"
 #include "register/RegisterScreen.h"
@@ -225,10 +226,12 @@ bool MainWindow::confirmDelete(const Account &account)
 // The account goes last: a restore looks for the rows deleted up to ten seconds before it.
 void MainWindow::deleteWithDependents(const QString &accountId)
 {
+    SqlTransaction cascade(m_appState->database());
     const int transactions = m_appState->transactions()->softDeleteByAccount(accountId);
     const int recurrings = m_appState->recurring()->softDeleteByAccount(accountId);
     const int reconciliations = m_appState->reconciliations()->softDeleteByAccount(accountId);
-    m_appState->accounts()->softDelete(accountId);
+    if (m_appState->accounts()->softDelete(accountId))
+        cascade.commit();
     qInfo() << "Cascade delete account" << accountId << "→ transactions:" << transactions
             << "recurrings:" << recurrings << "reconciliations:" << reconciliations;
 }

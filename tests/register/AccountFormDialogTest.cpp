@@ -1,5 +1,5 @@
-#include "core/Dates.h"
 #include "register/AccountFormDialog.h"
+#include "core/Dates.h"
 #include "support/TestSupport.h"
 
 #include <QCalendarWidget>

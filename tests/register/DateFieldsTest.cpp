@@ -74,8 +74,8 @@ void DateFieldsTest::dateKeys_data()
     QTest::newRow("minus over the year") << u"-"_s << QDate(2024, 1, 1) << QDate(2023, 12, 31);
     QTest::newRow("minus over the clock change") << u"-"_s << QDate(2024, 3, 11) << today;
     QTest::newRow("first of month") << u"m"_s << QDate(2024, 1, 31) << QDate(2024, 1, 1);
-    QTest::newRow("first, then last of month") << u"mh"_s << QDate(2024, 1, 31)
-                                               << QDate(2024, 1, 31);
+    QTest::newRow("first, then last of month")
+        << u"mh"_s << QDate(2024, 1, 31) << QDate(2024, 1, 31);
     QTest::newRow("last of a leap February") << u"h"_s << QDate(2024, 2, 1) << QDate(2024, 2, 29);
     QTest::newRow("first of year") << u"y"_s << QDate(2024, 2, 29) << QDate(2024, 1, 1);
     QTest::newRow("last of year") << u"r"_s << QDate(2024, 2, 29) << QDate(2024, 12, 31);
@@ -123,8 +123,8 @@ void DateFieldsTest::fieldSnapsBackOnLeaving()
     QVERIFY(QTest::qWaitForWindowActive(&form));
     field.setDate(QDate(2024, 5, 6));
     QSignalSpy changes(&field, &DateField::dateChanged);
-    for (const auto &[typed, shown] : {std::pair{u"nonsense"_s, u"5/6/2024"_s},
-                                       std::pair{u"05/09/2024"_s, u"5/9/2024"_s}}) {
+    for (const auto &[typed, shown] :
+         {std::pair{u"nonsense"_s, u"5/6/2024"_s}, std::pair{u"05/09/2024"_s, u"5/9/2024"_s}}) {
         field.setFocus();
         field.setText(typed);
         other.setFocus();

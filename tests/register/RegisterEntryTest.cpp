@@ -90,8 +90,8 @@ void RegisterEntryTest::refusals_data()
     QTest::newRow("no payee") << u"  "_s << u"5"_s << u"Payee is required"_s << QString();
     QTest::newRow("no amount") << u"Zoo"_s << u" "_s << u"Enter a payment or deposit amount"_s
                                << QString();
-    QTest::newRow("unknown account") << u"[Transfer] Nowhere"_s << u"5"_s
-                                     << u"Transfer account not found"_s << QString();
+    QTest::newRow("unknown account")
+        << u"[Transfer] Nowhere"_s << u"5"_s << u"Transfer account not found"_s << QString();
     QTest::newRow("another case is another account")
         << u"[Transfer] savings 50%1"_s << u"5"_s << u"Transfer account not found"_s << QString();
     QTest::newRow("currencies differ")
@@ -126,8 +126,8 @@ void RegisterEntryTest::categoryTexts_data()
     QTest::newRow("top level") << u" Groceries "_s << u"Groceries"_s << QString();
     QTest::newRow("bare name of a child") << u"Electric"_s << u"Electric"_s << u"Utilities"_s;
     QTest::newRow("path") << u"Utilities > Electric"_s << u"Electric"_s << u"Utilities"_s;
-    QTest::newRow("path below an unknown parent") << u"Home > Water"_s << u"Water"_s
-                                                  << u"Utilities"_s;
+    QTest::newRow("path below an unknown parent")
+        << u"Home > Water"_s << u"Water"_s << u"Utilities"_s;
     QTest::newRow("unknown") << u"Elektric %1"_s << QString() << QString();
     QTest::newRow("case matters") << u"groceries"_s << QString() << QString();
 }
@@ -269,8 +269,7 @@ void RegisterEntryTest::sortingEndsAnEditAndSparesTheOtherRows()
     m_fixture->type(u"Gamma"_s);
     m_fixture->view().sortByColumn(RegisterColumn::Payee, Qt::AscendingOrder);
     m_fixture->press(Qt::Key_Return, Qt::ControlModifier);
-    QCOMPARE(m_fixture->stored(u"payee, amount"_s),
-             QStringList({u"Beta|-500"_s, u"Alpha|-600"_s}));
+    QCOMPARE(m_fixture->stored(u"payee, amount"_s), QStringList({u"Beta|-500"_s, u"Alpha|-600"_s}));
 }
 
 void RegisterEntryTest::switchingTheAccountWhileAnEditorIsOpen()
@@ -345,9 +344,8 @@ void RegisterEntryTest::pickedCategoryGivesWayToTypedWords()
 void RegisterEntryTest::subcategoryLeftAloneKeepsItsId()
 {
     for (const QString &parent : {u"Housing"_s, u"Transportation"_s}) {
-        m_fixture->addTransaction(
-            m_checking, u"2024-01-05"_s, parent, -1,
-            {.category_id = m_fixture->categoryId(u"Maintenance"_s, parent)});
+        m_fixture->addTransaction(m_checking, u"2024-01-05"_s, parent, -1,
+                                  {.category_id = m_fixture->categoryId(u"Maintenance"_s, parent)});
     }
     const QStringList before = m_fixture->stored(u"payee, category_id"_s);
     m_fixture->openAccount(m_checking);

@@ -120,7 +120,7 @@ QString RegisterFixture::editorText()
         return combo->currentText();
     const auto *focused = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     return focused && PayeeMemoEditor::around(QApplication::focusWidget()) ? focused->text()
-                                                                          : QString();
+                                                                           : QString();
 }
 
 QString RegisterFixture::shown(int row, int column)

@@ -26,7 +26,8 @@ public:
     // Returns the account's id.
     QString addAccount(const QString &name, const QString &currency = QStringLiteral("USD"),
                        qint64 startingBalance = 0);
-    // Stores a transaction as it would have been typed long ago. Later calls count as created later.
+    // Stores a transaction as it would have been typed long ago. Later calls count as created
+    // later.
     Transaction addTransaction(const QString &accountId, const QString &date, const QString &payee,
                                qint64 amount, const Transaction &rest = {});
     void openAccount(const QString &accountId); // and shows the window

@@ -6,9 +6,9 @@
 #include "support/DialogAnswer.h"
 #include "support/TestSupport.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
@@ -99,8 +99,8 @@ void RegisterKeysTest::tabWalksButStopsAtTheEnd()
     m_fixture->openAccount(m_checking);
     m_fixture->press(Qt::Key_Return);
     m_fixture->press(Qt::Key_Tab);
-    for (const QString &text : {u"7"_s, u"Rent"_s, u"Rent/Mortgage Payment"_s, u"May"_s, u"900"_s,
-                                u""_s}) {
+    for (const QString &text :
+         {u"7"_s, u"Rent"_s, u"Rent/Mortgage Payment"_s, u"May"_s, u"900"_s, u""_s}) {
         QVERIFY(m_fixture->editor());
         m_fixture->type(text);
         m_fixture->press(Qt::Key_Tab);
@@ -183,8 +183,8 @@ void RegisterKeysTest::ctrlReturnSavesFromAnyCell_data()
 
     QTest::newRow("date") << int(RegisterColumn::Date) << u"2/29/2024"_s
                           << u"2024-02-29||Old|Old memo|-500|0"_s;
-    QTest::newRow("two-digit year") << int(RegisterColumn::Date) << u"3/14/25"_s
-                                    << u"1925-03-14||Old|Old memo|-500|0"_s;
+    QTest::newRow("two-digit year")
+        << int(RegisterColumn::Date) << u"3/14/25"_s << u"1925-03-14||Old|Old memo|-500|0"_s;
     QTest::newRow("check number") << int(RegisterColumn::CheckNumber) << u" 12 "_s
                                   << u"2024-01-05|12|Old|Old memo|-500|0"_s;
     QTest::newRow("payee") << int(RegisterColumn::Payee) << u"New \"quoted\""_s
@@ -193,8 +193,8 @@ void RegisterKeysTest::ctrlReturnSavesFromAnyCell_data()
                           << u"2024-01-05||Old|%1 %2|-500|0"_s;
     QTest::newRow("payment") << int(RegisterColumn::Payment) << u"1,234.56"_s
                              << u"2024-01-05||Old|Old memo|-123456|0"_s;
-    QTest::newRow("payment that is no number") << int(RegisterColumn::Payment) << u"abc"_s
-                                               << u"2024-01-05||Old|Old memo|0|0"_s;
+    QTest::newRow("payment that is no number")
+        << int(RegisterColumn::Payment) << u"abc"_s << u"2024-01-05||Old|Old memo|0|0"_s;
     QTest::newRow("clr") << int(RegisterColumn::Clr) << u"r"_s
                          << u"2024-01-05||Old|Old memo|-500|1"_s;
 }
@@ -268,14 +268,14 @@ void RegisterKeysTest::completionByEnterAndTab_data()
 
     const int payee = RegisterColumn::Payee;
     const int category = RegisterColumn::Category;
-    QTest::newRow("Enter takes and stays") << payee << u"lectric"_s << true << int(Qt::Key_Return)
-                                           << u"City Electric"_s << payee;
-    QTest::newRow("Enter without a choice stays") << payee << u"lectric"_s << false
-                                                  << int(Qt::Key_Return) << u"lectric"_s << payee;
-    QTest::newRow("Tab takes and moves on") << payee << u"lectric"_s << true << int(Qt::Key_Tab)
-                                            << u"City Electric"_s << category;
-    QTest::newRow("Tab without a choice moves on") << payee << u"lectric"_s << false
-                                                   << int(Qt::Key_Tab) << u"lectric"_s << category;
+    QTest::newRow("Enter takes and stays")
+        << payee << u"lectric"_s << true << int(Qt::Key_Return) << u"City Electric"_s << payee;
+    QTest::newRow("Enter without a choice stays")
+        << payee << u"lectric"_s << false << int(Qt::Key_Return) << u"lectric"_s << payee;
+    QTest::newRow("Tab takes and moves on")
+        << payee << u"lectric"_s << true << int(Qt::Key_Tab) << u"City Electric"_s << category;
+    QTest::newRow("Tab without a choice moves on")
+        << payee << u"lectric"_s << false << int(Qt::Key_Tab) << u"lectric"_s << category;
     QTest::newRow("Shift+Tab takes and moves back")
         << payee << u"lectric"_s << true << int(Qt::Key_Backtab) << u"City Electric"_s
         << int(RegisterColumn::CheckNumber);
@@ -317,9 +317,9 @@ void RegisterKeysTest::payeeBringsItsLastTransaction()
 {
     const QString groceries = m_fixture->categoryId(u"Groceries"_s);
     m_fixture->addTransaction(m_checking, u"2024-01-05"_s, u"Grocer"_s, -999);
-    m_fixture->addTransaction(m_checking, u"2024-02-05"_s, u"Grocer"_s, -4210,
-                              {.memo = u"weekly"_s, .category_id = groceries,
-                               .check_number = u"9"_s, .cleared = true});
+    m_fixture->addTransaction(
+        m_checking, u"2024-02-05"_s, u"Grocer"_s, -4210,
+        {.memo = u"weekly"_s, .category_id = groceries, .check_number = u"9"_s, .cleared = true});
     m_fixture->openAccount(m_checking);
     m_fixture->goTo(2, RegisterColumn::Deposit);
     m_fixture->press(Qt::Key_F2);
@@ -345,8 +345,8 @@ void RegisterKeysTest::apostropheCopiesFromAbove()
     m_fixture->addTransaction(m_checking, u"2024-01-06"_s, u"Other"_s, -700,
                               {.category_id = house});
     m_fixture->openAccount(m_checking);
-    for (const int column : {RegisterColumn::Payee, RegisterColumn::Category,
-                             RegisterColumn::Payment}) {
+    for (const int column :
+         {RegisterColumn::Payee, RegisterColumn::Category, RegisterColumn::Payment}) {
         m_fixture->goTo(1, column);
         m_fixture->type(u"'"_s);
     }

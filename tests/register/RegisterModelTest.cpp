@@ -1,6 +1,6 @@
+#include "register/RegisterModel.h"
 #include "register/DateInput.h"
 #include "register/RegisterColumn.h"
-#include "register/RegisterModel.h"
 #include "shell/theme/FontRoles.h"
 #include "support/TestSupport.h"
 
@@ -30,10 +30,9 @@ RegisterRow row(const QString &date, const QString &payee, qint64 amount, qint64
 // Oldest first, as the register reads them.
 QList<RegisterRow> sample()
 {
-    QList<RegisterRow> rows{row(u"2024-01-01"_s, u"pay"_s, 10000, 10000),
-                            row(u"2024-01-02"_s, u"Rent"_s, -9000, 1000),
-                            row(u"2024-01-02"_s, u"apple"_s, -2500, -1500),
-                            row(u"2024-01-05"_s, u"zero"_s, 0, -1500)};
+    QList<RegisterRow> rows{
+        row(u"2024-01-01"_s, u"pay"_s, 10000, 10000), row(u"2024-01-02"_s, u"Rent"_s, -9000, 1000),
+        row(u"2024-01-02"_s, u"apple"_s, -2500, -1500), row(u"2024-01-05"_s, u"zero"_s, 0, -1500)};
     rows[0].reconciled = true;
     rows[0].cleared = true;
     rows[1].cleared = true;
@@ -303,7 +302,7 @@ void RegisterModelTest::fontsAndAlignment()
         const bool money = column == RegisterColumn::Payment || column == RegisterColumn::Deposit
             || column == RegisterColumn::Balance;
         QCOMPARE(model.index(0, column).data(Qt::FontRole).isValid(), money);
-        const Qt::Alignment wanted = money            ? Qt::AlignRight | Qt::AlignVCenter
+        const Qt::Alignment wanted = money  ? Qt::AlignRight | Qt::AlignVCenter
             : column == RegisterColumn::Clr ? Qt::Alignment(Qt::AlignCenter)
                                             : Qt::AlignLeft | Qt::AlignVCenter;
         QCOMPARE(Qt::Alignment(model.index(0, column).data(Qt::TextAlignmentRole).toInt()), wanted);

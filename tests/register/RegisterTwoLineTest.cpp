@@ -194,8 +194,8 @@ void RegisterTwoLineTest::switchingTheAccountFromTheMemoLine()
 
 void RegisterTwoLineTest::paintsTheMemoUnderThePayee()
 {
-    const QRect cell
-        = m_fixture->view().visualRect(m_fixture->model().index(0, RegisterColumn::Payee));
+    const QRect cell =
+        m_fixture->view().visualRect(m_fixture->model().index(0, RegisterColumn::Payee));
     const QRect band(cell.left() + 1, cell.top() + RegisterDelegate::kRowHeight + 1,
                      cell.width() - 2, cell.height() - RegisterDelegate::kRowHeight - 2);
     const auto inkIn = [this](const QRect &place) {

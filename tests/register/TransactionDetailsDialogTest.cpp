@@ -1,10 +1,10 @@
+#include "register/TransactionDetailsDialog.h"
 #include "core/Ids.h"
 #include "core/state/AppState.h"
 #include "data/SplitLineRepository.h"
 #include "data/TransactionRepository.h"
 #include "register/RegisterColumn.h"
 #include "register/RegisterFixture.h"
-#include "register/TransactionDetailsDialog.h"
 #include "support/DialogAnswer.h"
 #include "support/TestSupport.h"
 
@@ -82,14 +82,14 @@ void TransactionDetailsDialogTest::showsEveryField()
     QFETCH(QString, amountText);
     QFETCH(QString, status);
 
-    const Transaction stored = m_fixture->addTransaction(
-        m_checking, u"2024-02-29"_s, u"<b>%1</b> & Söhne"_s, amount,
-        {.memo = u"\"quoted\""_s,
-         .category_id = m_fixture->categoryId(u"Groceries"_s),
-         .check_number = u"1041"_s,
-         .cleared = cleared,
-         .reconciled = reconciled,
-         .transfer_dest_account_id = u"gone"_s});
+    const Transaction stored =
+        m_fixture->addTransaction(m_checking, u"2024-02-29"_s, u"<b>%1</b> & Söhne"_s, amount,
+                                  {.memo = u"\"quoted\""_s,
+                                   .category_id = m_fixture->categoryId(u"Groceries"_s),
+                                   .check_number = u"1041"_s,
+                                   .cleared = cleared,
+                                   .reconciled = reconciled,
+                                   .transfer_dest_account_id = u"gone"_s});
     const TransactionDetailsDialog dialog(&m_fixture->state(), stored);
     QCOMPARE(value(dialog, u"date"_s), u"2/29/2024"_s);
     QCOMPARE(value(dialog, u"payee"_s), u"<b>%1</b> & Söhne"_s);
@@ -102,8 +102,8 @@ void TransactionDetailsDialogTest::showsEveryField()
     QCOMPARE(value(dialog, u"status"_s), status);
     Transaction unstamped = stored;
     unstamped.created_at = {};
-    QVERIFY(labels(TransactionDetailsDialog(&m_fixture->state(), unstamped))
-                .contains(u"Entered: —"_s));
+    QVERIFY(
+        labels(TransactionDetailsDialog(&m_fixture->state(), unstamped)).contains(u"Entered: —"_s));
 }
 
 void TransactionDetailsDialogTest::showsSplitLines()
@@ -140,8 +140,8 @@ void TransactionDetailsDialogTest::splitWithoutLines()
 
 void TransactionDetailsDialogTest::markWritesAtOnceAndLeavesTheVersion()
 {
-    const Transaction stored
-        = m_fixture->addTransaction(m_checking, u"2024-01-05"_s, u"Zoo"_s, -1000);
+    const Transaction stored =
+        m_fixture->addTransaction(m_checking, u"2024-01-05"_s, u"Zoo"_s, -1000);
     m_fixture->state().transactions()->markSynced(stored.id, u"server"_s);
     const TransactionDetailsDialog dialog(&m_fixture->state(),
                                           *m_fixture->state().transactions()->findById(stored.id));
@@ -179,8 +179,9 @@ void TransactionDetailsDialogTest::deleteTakesBothSides()
         box->button(QMessageBox::Yes)->click();
     });
     dialog.findChild<QPushButton *>(u"deleteButton"_s)->click();
-    QCOMPARE(asked, u"Delete transfer \"To\" for $10.00?\n\n"
-                    "Both sides of the transfer will be deleted."_s);
+    QCOMPARE(asked,
+             u"Delete transfer \"To\" for $10.00?\n\n"
+             "Both sides of the transfer will be deleted."_s);
     QVERIFY(dialog.isDeleted());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QCOMPARE(m_fixture->stored(u"id"_s), QStringList());

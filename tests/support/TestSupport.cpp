@@ -41,8 +41,8 @@ void catchMessage(QtMsgType type, const QMessageLogContext &, const QString &tex
 
 TestEnvironment::TestEnvironment()
 {
-    for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME",
-                                 "PURSEWELL_DATA_DIR"}) {
+    for (const char *variable :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME", "PURSEWELL_DATA_DIR"}) {
         const QString directory = path(QString::fromLatin1(variable).toLower());
         QDir().mkpath(directory);
         qputenv(variable, directory.toUtf8());

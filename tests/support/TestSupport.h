@@ -24,7 +24,7 @@ public:
     LogCatcher(const LogCatcher &) = delete;
     LogCatcher &operator=(const LogCatcher &) = delete;
 
-    static QStringList warnings();  // warning level only
+    static QStringList warnings(); // warning level only
     static QStringList criticals(); // critical level only
     static QStringList infos();
 };
