@@ -13,6 +13,7 @@
 #include "register/TabCompleter.h"
 #include "register/TwoLineCellPainter.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QStringListModel>
 
@@ -239,6 +240,13 @@ bool RegisterDelegate::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter)
+            return false;
+    }
+    // On X11 the activation of a completion list can arrive after the list has gone again. The
+    // editor has lost nothing then: the keys that follow are still meant for it.
+    if (event->type() == QEvent::FocusOut) {
+        const QWidget *active = QApplication::activeWindow();
+        if (active && active->windowType() == Qt::Popup)
             return false;
     }
     return QStyledItemDelegate::eventFilter(watched, event);

@@ -102,6 +102,7 @@ void RegisterScreen::setUpView()
     m_view->setTabKeyNavigation(false);
     m_view->setFocusPolicy(Qt::StrongFocus);
     m_view->setShowGrid(false);
+    m_view->setWordWrap(false);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
     m_view->verticalHeader()->hide();

@@ -38,6 +38,7 @@ bool confirmAndDeleteTransaction(const AppState &appState, const Transaction &tr
                          parent);
     question.setObjectName(u"deleteTransactionQuestion"_s);
     question.setTextFormat(Qt::PlainText); // a payee is a person's words
+    question.setDefaultButton(QMessageBox::No); // a stray Enter deletes nothing
     if (question.exec() != QMessageBox::Yes)
         return false;
 

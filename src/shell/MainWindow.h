@@ -82,5 +82,5 @@ private:
     EmptyPage *m_emptyPage = nullptr;
     QStackedWidget *m_stack = nullptr;
     StatusBar *m_statusBar = nullptr;
-    QTimer m_populateTimer{}; // gathers the notifications of one turn of the event loop
+    QTimer m_populateTimer{}; // gathers the notifications of a bulk write
 };

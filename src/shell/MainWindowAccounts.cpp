@@ -57,8 +57,11 @@ void MainWindow::schedulePopulate()
 
 void MainWindow::onPopulateTimeout()
 {
-    if (!m_accountList->isDragging()) // the end of the drag asks again
-        populateAccountList();
+    if (m_accountList->isDragging())
+        return; // the end of the drag asks again
+    // The sums read the whole table; the row just saved should be seen before that.
+    m_registerScreen->repaint();
+    populateAccountList();
 }
 
 void MainWindow::populateAccountList()
