@@ -1,6 +1,7 @@
 #include "core/Dates.h"
 
 #include <QLocale>
+#include <QTimeZone>
 
 #include <optional>
 
@@ -41,6 +42,15 @@ QTime plainTime(QStringView text)
     return QTime(numberAt(text, 0, 2), numberAt(text, 3, 2), numberAt(text, 6, 2));
 }
 
+QDateTime inUtc(QDate date, QTime time)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    return QDateTime(date, time, QTimeZone(QTimeZone::UTC));
+#else
+    return QDateTime(date, time, Qt::UTC);
+#endif
+}
+
 std::optional<QDateTime> plainStamp(QStringView text)
 {
     if (text.size() != kStampLength || text[kDateLength] != u'T' || text[19] != u'Z')
@@ -49,7 +59,7 @@ std::optional<QDateTime> plainStamp(QStringView text)
     const QTime time = plainTime(text.sliced(kDateLength + 1, 8));
     if (!date.isValid() || !time.isValid())
         return std::nullopt;
-    return QDateTime(date, time, Qt::UTC);
+    return inUtc(date, time);
 }
 
 } // namespace

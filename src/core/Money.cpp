@@ -35,6 +35,8 @@ qint64 roundedToMinorUnits(double amount)
 qint64 parseYen(const QString &digits, bool negative)
 {
     const qint64 yen = digits.toLongLong();
+    if (negative && yen < 0)
+        return 0;
     return negative ? negateMoney(yen) : yen;
 }
 
@@ -42,7 +44,7 @@ qint64 parseDecimals(const QString &digits, bool negative)
 {
     bool readable = false;
     const double units = digits.toDouble(&readable);
-    if (!readable)
+    if (!readable || (negative && units < 0)) // two minus signs are a slip, not a deposit
         return 0;
     return roundedToMinorUnits((negative ? -units : units) * 100.0);
 }
@@ -84,11 +86,8 @@ qint64 parseMoney(const QString &text, Currency currency)
     digits.remove(currencySymbol(currency)).remove(u',');
     digits = digits.trimmed();
     const bool negative = digits.startsWith(u'-');
-    if (negative) {
-        digits = digits.mid(1).trimmed();
-        if (digits.startsWith(u'-')) // two minus signs are a slip, not a deposit
-            return 0;
-    }
+    if (negative)
+        digits.remove(0, 1);
     return currency == Currency::JPY ? parseYen(digits, negative) : parseDecimals(digits, negative);
 }
 

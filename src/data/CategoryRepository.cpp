@@ -24,7 +24,7 @@ Category readRow(const QSqlQuery &query)
         .color = textAt(query, 7),
         .is_default = boolAt(query, 8),
         .account_id = textAt(query, 9),
-        .version = query.value(10).toInt(),
+        .version = intAt(query, 10),
         .sync_status = syncStatusFromString(textAt(query, 11)),
         .server_id = textAt(query, 12),
         .created_at = stampAt(query, 13),

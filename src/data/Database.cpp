@@ -180,7 +180,8 @@ bool Database::recordVersion(int version, const QString &name)
     query.prepare(u"INSERT INTO schema_version (version, name) VALUES (?, ?)"_s);
     query.addBindValue(version);
     query.addBindValue(name);
-    return query.exec() || rollBack(version, query.lastError().text());
+    const bool recorded = !query.lastError().isValid() && query.exec();
+    return recorded || rollBack(version, query.lastError().text());
 }
 
 bool Database::rollBack(int version, const QString &error)

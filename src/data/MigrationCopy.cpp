@@ -55,11 +55,10 @@ QString migrationCopyPath(const QString &databasePath, int version)
 
 bool makeMigrationCopy(QSqlDatabase &database, const QString &path, QString *error)
 {
-    // Under its final name a copy is always complete.
+    // A program that is stopped here leaves no half copy under the name of a whole one.
     const QString unfinished = path + u".tmp"_s;
-    if (!makeEmptyFile(unfinished, database.databaseName(), error))
-        return false;
-    if (copyInto(database, unfinished, error) && renameOver(unfinished, path, error))
+    if (makeEmptyFile(unfinished, database.databaseName(), error)
+        && copyInto(database, unfinished, error) && renameOver(unfinished, path, error))
         return true;
     QFile::remove(unfinished);
     return false;

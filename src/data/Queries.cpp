@@ -10,7 +10,7 @@ namespace {
 
 // Text and fractions get into an integer column only from outside. A fraction beyond 64 bits has
 // no integer to become.
-qint64 moneyFrom(const QVariant &value)
+qint64 integerFrom(const QVariant &value)
 {
     if (value.typeId() != QMetaType::Double)
         return value.toLongLong();
@@ -37,7 +37,8 @@ QSqlQuery writeQuery(Database *database, const QString &statement)
 
 bool execWrite(QSqlQuery &query, const char *failureLine)
 {
-    if (query.exec())
+    // A statement that could not be prepared has its reason already; exec() would write over it.
+    if (!query.lastError().isValid() && query.exec())
         return true;
     qWarning() << failureLine << query.lastError().text();
     return false;
@@ -60,7 +61,13 @@ QString textAt(const QSqlQuery &query, int column)
 
 qint64 moneyAt(const QSqlQuery &query, int column)
 {
-    return moneyFrom(query.value(column));
+    return integerFrom(query.value(column));
+}
+
+int intAt(const QSqlQuery &query, int column)
+{
+    const qint64 number = integerFrom(query.value(column));
+    return number == static_cast<int>(number) ? static_cast<int>(number) : 0;
 }
 
 bool boolAt(const QSqlQuery &query, int column)

@@ -26,6 +26,7 @@ QVariant nullIfEmpty(const QString &text);
 // One column of the current row; NULL reads as empty, 0, false or invalid.
 QString textAt(const QSqlQuery &query, int column);
 qint64 moneyAt(const QSqlQuery &query, int column); // minor units; 0 for what is no number
+int intAt(const QSqlQuery &query, int column); // 0 also for what does not fit
 bool boolAt(const QSqlQuery &query, int column);
 QDate dateAt(const QSqlQuery &query, int column);
 QDateTime stampAt(const QSqlQuery &query, int column);

@@ -20,7 +20,7 @@ Reconciliation readRow(const QSqlQuery &query)
         .statement_balance = moneyAt(query, 3),
         .reconciled_balance = moneyAt(query, 4),
         .completed_at = stampAt(query, 5),
-        .version = query.value(6).toInt(),
+        .version = intAt(query, 6),
         .sync_status = syncStatusFromString(textAt(query, 7)),
         .server_id = textAt(query, 8),
         .created_at = stampAt(query, 9),

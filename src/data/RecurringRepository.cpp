@@ -38,7 +38,7 @@ RecurringTransaction readRow(const QSqlQuery &query)
         .auto_post = boolAt(query, 10),
         .is_active = boolAt(query, 11),
         .transfer_dest_account_id = textAt(query, 12),
-        .version = query.value(13).toInt(),
+        .version = intAt(query, 13),
         .sync_status = syncStatusFromString(textAt(query, 14)),
         .server_id = textAt(query, 15),
         .created_at = stampAt(query, 16),

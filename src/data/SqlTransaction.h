@@ -3,6 +3,7 @@
 class Database;
 
 // Several writes that belong together: undone when it goes out of scope, unless committed before.
+// Inside a transaction that is open already it joins that one and leaves the end to it.
 class SqlTransaction
 {
 public:

@@ -34,7 +34,7 @@ Transaction readRow(const QSqlQuery &query)
         .transfer_dest_account_id = textAt(query, 11),
         .is_split = boolAt(query, 12),
         .recurring_id = textAt(query, 13),
-        .version = query.value(14).toInt(),
+        .version = intAt(query, 14),
         .sync_status = syncStatusFromString(textAt(query, 15)),
         .server_id = textAt(query, 16),
         .created_at = stampAt(query, 17),

@@ -132,7 +132,7 @@ CREATE TABLE IF NOT EXISTS reconciliations (
     completed_at       TEXT NOT NULL
 );
 
--- Reserved: no code reads or writes it, and it keeps the stored layout alike.
+-- Reserved: no code reads or writes it.
 CREATE TABLE IF NOT EXISTS transaction_templates (
     id           TEXT PRIMARY KEY,
     account_id   TEXT NOT NULL REFERENCES accounts(id),

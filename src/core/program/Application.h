@@ -31,8 +31,8 @@ private:
     int reportDatabaseError();
 
     AppState *m_appState = nullptr;
-    // Without a parent and never deleted: it must not outlive the widgets' application, and all it
-    // has to save it saves when it closes.
+    // Without a parent and never deleted: as a child it would die after the widgets' part of the
+    // application. All it has to save it saves when it closes.
     MainWindow *m_mainWindow = nullptr;
     QTranslator *m_qtTranslator = nullptr; // null for English, or when there is none
     QTranslator *m_appTranslator = nullptr; // null when there is none

@@ -92,6 +92,7 @@ void AppState::setCurrentAccountId(const QString &id)
     if (id == m_currentAccountId)
         return;
     m_currentAccountId = id;
-    m_preferences->set(kLastViewedAccountKey, id);
+    m_preferences->set(kLastViewedAccountKey,
+                       id.isNull() ? u""_s : id); // a null text is stored as NULL
     Q_EMIT currentAccountChanged(id);
 }
