@@ -111,7 +111,8 @@ void RegisterDelegate::completePayee(RegisterLineEdit *editor) const
     auto *model = new QStringListModel(payeeSuggestions(*m_appState, m_accountId), editor);
     auto *completer = new TabCompleter(model, editor);
     editor->setCompleter(completer);
-    connect(completer, qOverload<const QString &>(&QCompleter::activated), editor,
+    // Not the editor as context: when it loses the focus it drops every connection to itself.
+    connect(completer, qOverload<const QString &>(&QCompleter::activated), completer,
             [this, editor](const QString &payee) { onPayeeCompleted(editor, payee); });
 }
 
@@ -124,9 +125,9 @@ QWidget *RegisterDelegate::createCategoryEditor(QWidget *parent) const
     const QList<Category> categories = m_appState->categories()->listActive();
     const QHash<QString, QString> names = namesById(categories);
     for (const Category &category : categories) {
-        const QString parentName = names.value(category.parent_id);
-        combo->addItem(parentName.isEmpty() ? category.name
-                                            : u"%1 > %2"_s.arg(parentName, category.name),
+        const bool isChild = names.contains(category.parent_id);
+        combo->addItem(isChild ? u"%1 > %2"_s.arg(names.value(category.parent_id), category.name)
+                               : category.name,
                        category.id);
     }
     auto *completer = new TabCompleter(combo->model(), combo);
@@ -136,6 +137,8 @@ QWidget *RegisterDelegate::createCategoryEditor(QWidget *parent) const
                 if (const int found = findExactly(*combo, text); found >= 0)
                     combo->setCurrentIndex(found);
             });
+    connect(combo, &QComboBox::currentIndexChanged, combo,
+            [combo] { combo->setProperty("_kestCategoryId", combo->currentData()); });
     return combo;
 }
 
@@ -143,8 +146,13 @@ void RegisterDelegate::onPayeeCompleted(RegisterLineEdit *editor, const QString 
 {
     if (m_model->editRow() >= 0)
         return; // a stored row keeps its own amount and category
+    // What stands in the editor goes first, or the row's old texts would come back over it.
+    QLineEdit *memo = PayeeMemoEditor::memoEditBeside(editor);
+    m_model->buffers().payee = payee;
+    if (memo)
+        m_model->buffers().memo = memo->text();
     fillInsertionRow(payee);
-    if (QLineEdit *memo = PayeeMemoEditor::memoEditBeside(editor))
+    if (memo)
         memo->setText(m_model->buffers().memo);
     const int row = m_model->insertionRow();
     Q_EMIT m_model->dataChanged(m_model->index(row, 0),
@@ -202,20 +210,20 @@ void RegisterDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 }
 
 // The box keeps its last picked item while other words are typed over it, and a subcategory shows
-// under its bare name, which no item has. What is saved has to be what the cell shows: the item of
-// exactly this text, else the category that stood there if its name was left alone, else none, and
-// the name decides when the row is saved.
+// under its bare name, which is no item's or another category's. What is saved has to be what the
+// cell shows: the category that stood there if its name was left alone, else the item of exactly
+// this text, else none, and the name decides when the row is saved.
 void RegisterDelegate::takeCategory(const QComboBox &combo, const QModelIndex &index) const
 {
     RegisterEditBuffers &buffers = m_model->buffers();
     const QString text = combo.currentText();
     QString id;
-    if (combo.itemText(combo.currentIndex()) == text)
+    if (text == buffers.category && !buffers.category_id.isEmpty())
+        id = buffers.category_id;
+    else if (combo.itemText(combo.currentIndex()) == text)
         id = combo.currentData().toString();
     else if (const int found = findExactly(combo, text); found >= 0)
         id = combo.itemData(found).toString();
-    else if (text == buffers.category)
-        id = buffers.category_id;
     m_model->setData(index, text, Qt::EditRole);
     buffers.category_id = id;
 }
@@ -241,6 +249,10 @@ bool RegisterDelegate::eventFilter(QObject *watched, QEvent *event)
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter)
             return false;
+        if (RegisterLineEdit::belongsToGrid(*static_cast<QKeyEvent *>(event))) {
+            event->ignore();
+            return true;
+        }
     }
     // On X11 the activation of a completion list can arrive after the list has gone again. The
     // editor has lost nothing then: the keys that follow are still meant for it.

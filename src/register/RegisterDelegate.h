@@ -3,7 +3,6 @@
 #include <QStyledItemDelegate>
 
 class AppState;
-class PayeeMemoEditor;
 class QComboBox;
 class RegisterLineEdit;
 class RegisterModel;
@@ -22,7 +21,6 @@ public:
 
     void setAccountId(const QString &accountId) { m_accountId = accountId; }
     void setTwoLineMode(bool enabled) { m_twoLineMode = enabled; }
-    bool twoLineMode() const { return m_twoLineMode; }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;

@@ -17,10 +17,9 @@ namespace {
 QString subtitleOf(const Account &account)
 {
     const QString &number = account.account_number_last4;
-    if (number.isEmpty())
+    if (account.institution.isEmpty() || number.isEmpty())
         return account.institution;
-    return account.institution.isEmpty() ? u"*%1"_s.arg(number)
-                                         : u"%1  ·  *%2"_s.arg(account.institution, number);
+    return u"%1  ·  *%2"_s.arg(account.institution, number);
 }
 
 } // namespace

@@ -46,7 +46,6 @@ public:
     void loadRowIntoBuffers(int modelRow);
     void resetInsertionBuffers(); // the date starts from the last one entered, or today
 
-    const QString &lastEnteredDate() const { return m_lastEnteredDate; }
     void setLastEnteredDate(const QString &text) { m_lastEnteredDate = text; }
 
     void setTwoLineMode(bool enabled) { m_twoLineMode = enabled; }

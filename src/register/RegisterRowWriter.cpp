@@ -6,7 +6,6 @@
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "data/CategoryRepository.h"
-#include "data/Database.h"
 #include "data/SqlTransaction.h"
 #include "data/TransactionRepository.h"
 #include "register/PayeeFill.h"

@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 
 class AppState;
-struct Account;
 
 // Turns what was typed into a row of the register into stored transactions.
 class RegisterRowWriter

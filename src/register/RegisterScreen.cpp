@@ -262,16 +262,15 @@ void RegisterScreen::commitCurrentRow()
 void RegisterScreen::copyFromAbove()
 {
     const QModelIndex index = m_view->currentIndex();
-    if (!index.isValid() || index.row() == 0)
+    if (!(index.flags() & Qt::ItemIsEditable) || index.row() == 0)
         return;
-    const int above = index.row() - 1;
-    // Read before the write: the row above may be the insertion row and share the buffers.
-    const RegisterRow *stored = m_model->rowAt(above);
-    const QString categoryId = stored ? stored->category_id : m_model->buffers().category_id;
-    const QVariant value = m_model->index(above, index.column()).data(Qt::EditRole);
+    const RegisterRow *above = m_model->rowAt(index.row() - 1);
+    if (!above)
+        return; // the insertion row on top shares its texts with this one
+    const QVariant value = index.sibling(index.row() - 1, index.column()).data(Qt::EditRole);
     m_model->setData(index, value);
     if (index.column() == RegisterColumn::Category)
-        m_model->buffers().category_id = categoryId; // or the old one would be saved
+        m_model->buffers().category_id = above->category_id; // or the old one would be saved
     if (auto *line = qobject_cast<QLineEdit *>(m_view->activeEditor()))
         line->setText(value.toString());
 }
@@ -398,6 +397,8 @@ void RegisterScreen::onEnter()
     startEditingRow(current.row());
     if (current.flags() & Qt::ItemIsEditable)
         m_view->edit(current);
+    else if (splitLinesOwn(current))
+        advanceToNextField();
 }
 
 void RegisterScreen::insertNew()

@@ -126,7 +126,10 @@ void RegisterTableView::moveToField(bool next)
 QModelIndex RegisterTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     const QModelIndex index = QTableView::moveCursor(action, modifiers);
-    return index.column() == RegisterColumn::Balance
-        ? index.siblingAtColumn(RegisterColumn::kLastNavigable)
-        : index;
+    if (index.column() != RegisterColumn::Balance)
+        return index;
+    int column = RegisterColumn::kLastNavigable;
+    while (column > RegisterColumn::kFirstNavigable && isColumnHidden(column))
+        --column;
+    return index.siblingAtColumn(column);
 }

@@ -28,6 +28,12 @@ public:
     }
 };
 
+// A row that is not stored, or no longer, is no reason to keep its other side.
+bool deleteIfThere(TransactionRepository &transactions, const QString &id)
+{
+    return id.isEmpty() || transactions.softDelete(id) || !transactions.findById(id);
+}
+
 } // namespace
 
 bool confirmAndDeleteTransaction(const AppState &appState, const Transaction &transaction,
@@ -43,8 +49,6 @@ bool confirmAndDeleteTransaction(const AppState &appState, const Transaction &tr
         return false;
 
     SqlTransaction bothSides(appState.database());
-    if (!transaction.transfer_link_id.isEmpty())
-        appState.transactions()->softDelete(transaction.transfer_link_id);
-    appState.transactions()->softDelete(transaction.id);
-    return bothSides.commit();
+    return deleteIfThere(*appState.transactions(), transaction.transfer_link_id)
+        && deleteIfThere(*appState.transactions(), transaction.id) && bothSides.commit();
 }

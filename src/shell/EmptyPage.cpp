@@ -46,8 +46,9 @@ QPushButton *createButton(const QString &text)
 {
     auto *button = new QPushButton(text);
     button->setObjectName(u"createAccountButton"_s);
-    button->setStyleSheet(primaryButtonStyle());
-    button->setMinimumSize(180, 40);
+    // A width in the style goes before the widget's own; with its padding this one makes 180.
+    button->setStyleSheet(primaryButtonStyle() + u"QPushButton { min-width: 148px; }"_s);
+    button->setMinimumHeight(40);
     button->setCursor(Qt::PointingHandCursor);
     applyFontRole(button, FontRole::Body); // a style sheet cuts it off from the application's font
     return button;

@@ -69,7 +69,7 @@ private:
     void showNothingOpen();
     void showSelectAccountFirst();
     bool confirmDelete(const Account &account);
-    void deleteWithDependents(const QString &accountId);
+    bool deleteWithDependents(const QString &accountId);
     void insertOpeningBalance(const QString &accountId, QDate date, qint64 amount);
 
     AppState *m_appState;

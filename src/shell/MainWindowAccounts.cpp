@@ -202,9 +202,8 @@ void MainWindow::showEditAccountDialog()
 void MainWindow::deleteAccount(const QString &accountId)
 {
     const std::optional<Account> account = m_appState->accounts()->findById(accountId);
-    if (!account || !confirmDelete(*account))
+    if (!account || !confirmDelete(*account) || !deleteWithDependents(account->id))
         return;
-    deleteWithDependents(account->id);
     if (account->id == m_appState->currentAccountId()) {
         m_appState->setCurrentAccountId({});
         showNothingOpen();
@@ -227,16 +226,17 @@ bool MainWindow::confirmDelete(const Account &account)
 }
 
 // The account goes last: a restore looks for the rows deleted up to ten seconds before it.
-void MainWindow::deleteWithDependents(const QString &accountId)
+bool MainWindow::deleteWithDependents(const QString &accountId)
 {
     SqlTransaction cascade(m_appState->database());
     const int transactions = m_appState->transactions()->softDeleteByAccount(accountId);
     const int recurrings = m_appState->recurring()->softDeleteByAccount(accountId);
     const int reconciliations = m_appState->reconciliations()->softDeleteByAccount(accountId);
-    if (m_appState->accounts()->softDelete(accountId))
-        cascade.commit();
+    if (!m_appState->accounts()->softDelete(accountId) || !cascade.commit())
+        return false;
     qInfo() << "Cascade delete account" << accountId << "→ transactions:" << transactions
             << "recurrings:" << recurrings << "reconciliations:" << reconciliations;
+    return true;
 }
 
 void MainWindow::deleteCurrentAccount()
