@@ -22,7 +22,7 @@ correct_amount() {
 delete_row() {
   press alt+1
   go_to_cell 3 0 # Parking Garage
-  press ctrl+d
+  press Return ctrl+d # from inside an editor, where X11 has a use of its own for the key
   wait_for_window "Delete Transaction"
   picture delete-question
   press alt+y

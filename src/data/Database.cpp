@@ -122,11 +122,10 @@ bool Database::migrateWithCopy(int current)
         Q_EMIT migrationError(kNewestVersion, error);
         return false;
     }
-    if (!migrateFrom(current))
-        return false;
-    if (m_committed)
+    const bool migrated = migrateFrom(current);
+    if (migrated)
         QFile::remove(copy);
-    return true;
+    return migrated;
 }
 
 bool Database::migrateFrom(int current)
@@ -154,7 +153,10 @@ bool Database::applyMigration(int version, const QString &name, const QString &s
     m_db.transaction();
     if (!runStatements(version, script) || !recordVersion(version, name))
         return false;
-    m_committed = m_db.commit() && m_committed;
+    // A commit that is refused leaves the transaction open, and all that is typed afterwards would
+    // be lost with it when the program ends.
+    if (!m_db.commit())
+        return rollBack(version, m_db.lastError().text());
     qInfo() << "Applied migration" << version << name;
     Q_EMIT migrationApplied(version, name);
     return true;

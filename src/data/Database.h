@@ -40,5 +40,4 @@ private:
 
     QSqlDatabase m_db{};
     bool m_opened = false;
-    bool m_committed = true; // false once a commit reported failure
 };

@@ -14,26 +14,13 @@ class BrokenRowsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup() { m_database.reset(); }
     void amountsReadAsNumbersOrZero_data();
     void amountsReadAsNumbersOrZero();
     void unknownWordsReadAsTheirFallback();
     void wordsAndEnumeratorsAreOneToOne();
     void brokenDatesReadAsInvalid();
     void withoutTablesEverythingReadsAsEmpty();
-
-private:
-    std::unique_ptr<TestDatabase> m_database;
 };
-
-void BrokenRowsTest::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_database->addSampleOwners();
-    QVERIFY(m_database->recurring.insert(sampleRecurring()));
-    QVERIFY(m_database->transactions.insert(sampleTransaction()));
-}
 
 void BrokenRowsTest::amountsReadAsNumbersOrZero_data()
 {
@@ -49,27 +36,32 @@ void BrokenRowsTest::amountsReadAsNumbersOrZero_data()
 
 void BrokenRowsTest::amountsReadAsNumbersOrZero()
 {
+    TestDatabase db;
+    db.addSampleOwners();
     QFETCH(QVariant, stored);
-    m_database->run(u"UPDATE accounts SET starting_balance = ?, version = ?, sort_order = ?, "
-                    "is_shared = ? WHERE id = 'a'"_s,
-                    {stored, stored, stored, stored});
-    const Account account = m_database->accounts.findById(u"a"_s).value();
+    db.run(u"UPDATE accounts SET starting_balance = ?, version = ?, sort_order = ?, "
+           "is_shared = ? WHERE id = 'a'"_s,
+           {stored, stored, stored, stored});
+    const Account account = db.accounts.findById(u"a"_s).value();
     QTEST(account.starting_balance, "read");
     QCOMPARE(account.name, sampleAccount().name);
 }
 
 void BrokenRowsTest::unknownWordsReadAsTheirFallback()
 {
-    m_database->run(u"UPDATE accounts SET account_type = 'Checking', currency = 'CHF', "
-                    "sync_status = 'queued' WHERE id = 'a'"_s);
-    m_database->run(u"UPDATE categories SET category_type = ''"_s);
-    m_database->run(u"UPDATE recurring_transactions SET frequency = 'MONTHLY '"_s);
-    const Account account = m_database->accounts.findById(u"a"_s).value();
+    TestDatabase db;
+    db.addSampleOwners();
+    QVERIFY(db.recurring.insert(sampleRecurring()));
+    db.run(u"UPDATE accounts SET account_type = 'Checking', currency = 'CHF', "
+           "sync_status = 'queued' WHERE id = 'a'"_s);
+    db.run(u"UPDATE categories SET category_type = ''"_s);
+    db.run(u"UPDATE recurring_transactions SET frequency = 'MONTHLY '"_s);
+    const Account account = db.accounts.findById(u"a"_s).value();
     QCOMPARE(account.account_type, AccountType::Other);
     QCOMPARE(account.currency, Currency::USD);
     QCOMPARE(account.sync_status, SyncStatus::Pending);
-    QCOMPARE(m_database->categories.findById(u"c"_s)->category_type, CategoryType::Expense);
-    QCOMPARE(m_database->recurring.findById(u"r"_s)->frequency, Frequency::Monthly);
+    QCOMPARE(db.categories.findById(u"c"_s)->category_type, CategoryType::Expense);
+    QCOMPARE(db.recurring.findById(u"r"_s)->frequency, Frequency::Monthly);
 }
 
 // What the file and the server hold. A value outside the enumeration is written as a word too.
@@ -97,33 +89,38 @@ void BrokenRowsTest::wordsAndEnumeratorsAreOneToOne()
 
 void BrokenRowsTest::brokenDatesReadAsInvalid()
 {
-    m_database->run(u"UPDATE transactions SET date = '2023-02-29', created_at = '', "
-                    "updated_at = 'soon'"_s);
-    m_database->run(u"UPDATE recurring_transactions SET end_date = 'never', deleted_at = ''"_s);
-    const QList<RegisterRow> rows = m_database->transactions.registerRows(u"a"_s);
+    TestDatabase db;
+    db.addSampleOwners();
+    QVERIFY(db.recurring.insert(sampleRecurring()));
+    QVERIFY(db.transactions.insert(sampleTransaction()));
+    db.run(u"UPDATE transactions SET date = '2023-02-29', created_at = '', "
+           "updated_at = 'soon'"_s);
+    db.run(u"UPDATE recurring_transactions SET end_date = 'never', deleted_at = ''"_s);
+    const QList<RegisterRow> rows = db.transactions.registerRows(u"a"_s);
     QCOMPARE(rows.first().date, QDate::currentDate()); // no day to share
     QVERIFY(!rows.last().date.isValid());
     QVERIFY(!rows.last().created_at.isValid());
     QVERIFY(!rows.last().updated_at.isValid());
     QCOMPARE(rows.last().payee, sampleTransaction().payee);
-    const RecurringTransaction recurring = m_database->recurring.findById(u"r"_s).value();
+    const RecurringTransaction recurring = db.recurring.findById(u"r"_s).value();
     QVERIFY(!recurring.end_date.value().isValid());
     QVERIFY(!recurring.deleted_at);
 }
 
 void BrokenRowsTest::withoutTablesEverythingReadsAsEmpty()
 {
-    m_database->run(u"PRAGMA foreign_keys=OFF"_s);
+    TestDatabase db;
+    db.run(u"PRAGMA foreign_keys=OFF"_s);
     for (const QString &table : {u"transactions"_s, u"accounts"_s, u"categories"_s,
                                  u"recurring_transactions"_s, u"reconciliations"_s})
-        m_database->run(u"DROP TABLE %1"_s.arg(table));
+        db.run(u"DROP TABLE %1"_s.arg(table));
     const LogCatcher log;
-    QCOMPARE(m_database->transactions.registerRows(u"a"_s).size(), 0);
-    QCOMPARE(m_database->transactions.balancesByAccount().size(), 0);
-    QCOMPARE(m_database->transactions.search(u"bread"_s, {}).size(), 0);
-    QVERIFY(!m_database->transactions.findById(u"t"_s));
-    QCOMPARE(m_database->accounts.listActive().size(), 0);
-    QCOMPARE(m_database->categories.countActive(), 0);
+    QCOMPARE(db.transactions.registerRows(u"a"_s).size(), 0);
+    QCOMPARE(db.transactions.balancesByAccount().size(), 0);
+    QCOMPARE(db.transactions.search(u"bread"_s, {}).size(), 0);
+    QVERIFY(!db.transactions.findById(u"t"_s));
+    QCOMPARE(db.accounts.listActive().size(), 0);
+    QCOMPARE(db.categories.countActive(), 0);
     QCOMPARE(LogCatcher::warnings(), QStringList());
 }
 

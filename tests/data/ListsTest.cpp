@@ -17,6 +17,17 @@ template <typename Record> QStringList idsOf(const QList<Record> &records)
     return ids;
 }
 
+void addTransaction(TestDatabase &db, const QString &id, QDate date, int seconds,
+                    const QString &payee)
+{
+    Transaction transaction = sampleTransaction(id);
+    transaction.date = date;
+    transaction.payee = payee;
+    transaction.reconciled = false;
+    transaction.created_at = sampleStamp(seconds);
+    QVERIFY(db.transactions.insert(transaction));
+}
+
 } // namespace
 
 // What the lists hold and how they are sorted.
@@ -25,8 +36,6 @@ class ListsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup() { m_database.reset(); }
     void namesSortInBinaryOrder();
     void sortOrdersStayOnThisDevice();
     void sortOrdersAreWrittenTogetherOrNotAtAll();
@@ -36,53 +45,34 @@ private Q_SLOTS:
     void brokenDueDateIsReported_data();
     void brokenDueDateIsReported();
     void reconciliationsGoByStatement();
-
-private:
-    void addTransaction(const QString &id, QDate date, int seconds, const QString &payee);
-
-    std::unique_ptr<TestDatabase> m_database;
 };
-
-void ListsTest::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_database->addSampleOwners();
-}
-
-void ListsTest::addTransaction(const QString &id, QDate date, int seconds, const QString &payee)
-{
-    Transaction transaction = sampleTransaction(id);
-    transaction.date = date;
-    transaction.payee = payee;
-    transaction.reconciled = false;
-    transaction.created_at = sampleStamp(seconds);
-    QVERIFY(m_database->transactions.insert(transaction));
-}
 
 void ListsTest::namesSortInBinaryOrder()
 {
+    TestDatabase db;
+    db.addSampleOwners();
     for (const QString &name : {u"apple"_s, u"Zebra"_s}) {
         Account account = sampleAccount(name);
         account.name = name;
         account.sort_order = -9;
         Category category = sampleCategory(name);
         category.name = name;
-        QVERIFY(m_database->accounts.insert(account) && m_database->categories.insert(category));
+        QVERIFY(db.accounts.insert(account) && db.categories.insert(category));
     }
-    QCOMPARE(idsOf(m_database->accounts.listActive()).first(2),
-             (QStringList{u"Zebra"_s, u"apple"_s}));
-    QCOMPARE(idsOf(m_database->categories.listActive()),
-             (QStringList{u"c"_s, u"Zebra"_s, u"apple"_s}));
+    QCOMPARE(idsOf(db.accounts.listActive()).first(2), (QStringList{u"Zebra"_s, u"apple"_s}));
+    QCOMPARE(idsOf(db.categories.listActive()), (QStringList{u"c"_s, u"Zebra"_s, u"apple"_s}));
 }
 
 void ListsTest::sortOrdersStayOnThisDevice()
 {
-    QVERIFY(m_database->accounts.updateSortOrders({{u"a"_s, 2}, {u"b"_s, 1}}));
-    QCOMPARE(m_database->takeSignals(), QStringList{u"accounts"_s});
-    QCOMPARE(idsOf(m_database->accounts.listActive()), (QStringList{u"b"_s, u"a"_s}));
+    TestDatabase db;
+    db.addSampleOwners();
+    QVERIFY(db.accounts.updateSortOrders({{u"a"_s, 2}, {u"b"_s, 1}}));
+    QCOMPARE(db.takeSignals(), QStringList{u"accounts"_s});
+    QCOMPARE(idsOf(db.accounts.listActive()), (QStringList{u"b"_s, u"a"_s}));
     Account expected = sampleAccount();
     expected.sort_order = 2;
-    const Account account = m_database->accounts.findById(u"a"_s).value();
+    const Account account = db.accounts.findById(u"a"_s).value();
     QVERIFY(account.updated_at > expected.updated_at);
     expected.updated_at = account.updated_at;
     QVERIFY(account == expected); // its sync state included
@@ -90,21 +80,25 @@ void ListsTest::sortOrdersStayOnThisDevice()
 
 void ListsTest::sortOrdersAreWrittenTogetherOrNotAtAll()
 {
-    const QList<Account> before = m_database->accounts.listActive();
-    m_database->run(u"CREATE TRIGGER refusing BEFORE UPDATE ON accounts WHEN old.id = 'b' BEGIN "
-                    "SELECT RAISE(ABORT, 'refused'); END"_s);
-    QVERIFY(!m_database->accounts.updateSortOrders({{u"a"_s, 7}, {u"b"_s, 8}}));
-    QVERIFY(m_database->accounts.listActive() == before);
-    QCOMPARE(m_database->takeSignals(), QStringList());
-    QVERIFY(m_database->accounts.updateSortOrders({{u"a"_s, 7}})); // no transaction stayed open
+    TestDatabase db;
+    db.addSampleOwners();
+    const QList<Account> before = db.accounts.listActive();
+    db.run(u"CREATE TRIGGER refusing BEFORE UPDATE ON accounts WHEN old.id = 'b' BEGIN "
+           "SELECT RAISE(ABORT, 'refused'); END"_s);
+    QVERIFY(!db.accounts.updateSortOrders({{u"a"_s, 7}, {u"b"_s, 8}}));
+    QVERIFY(db.accounts.listActive() == before);
+    QCOMPARE(db.takeSignals(), QStringList());
+    QVERIFY(db.accounts.updateSortOrders({{u"a"_s, 7}})); // no transaction stayed open
 }
 
 void ListsTest::transactionsGoByDayThenByCreation()
 {
-    addTransaction(u"later"_s, QDate(2024, 2, 29), 9, u"Shop"_s);
-    addTransaction(u"first"_s, QDate(2024, 2, 28), 99, u"Shop"_s);
-    addTransaction(u"sooner"_s, QDate(2024, 2, 29), 1, u"Shop"_s);
-    const TransactionRepository &transactions = m_database->transactions;
+    TestDatabase db;
+    db.addSampleOwners();
+    addTransaction(db, u"later"_s, QDate(2024, 2, 29), 9, u"Shop"_s);
+    addTransaction(db, u"first"_s, QDate(2024, 2, 28), 99, u"Shop"_s);
+    addTransaction(db, u"sooner"_s, QDate(2024, 2, 29), 1, u"Shop"_s);
+    const TransactionRepository &transactions = db.transactions;
     QCOMPARE(idsOf(transactions.listByAccount(u"a"_s)),
              (QStringList{u"later"_s, u"sooner"_s, u"first"_s}));
     QCOMPARE(idsOf(transactions.listUnreconciled(u"a"_s)),
@@ -117,32 +111,35 @@ void ListsTest::transactionsGoByDayThenByCreation()
 
 void ListsTest::payees()
 {
+    TestDatabase db;
+    db.addSampleOwners();
     for (const QString &payee : {u"bank"_s, u"Zoo"_s, u""_s, awkwardWords()}) {
-        addTransaction(payee, QDate(2024, 2, 29), 1, payee);
-        addTransaction(payee + u" again"_s, QDate(2024, 2, 29), 1, payee);
+        addTransaction(db, payee, QDate(2024, 2, 29), 1, payee);
+        addTransaction(db, payee + u" again"_s, QDate(2024, 2, 29), 1, payee);
     }
-    QCOMPARE(m_database->transactions.allPayees(),
-             (QStringList{awkwardWords(), u"Zoo"_s, u"bank"_s}));
+    QCOMPARE(db.transactions.allPayees(), (QStringList{awkwardWords(), u"Zoo"_s, u"bank"_s}));
 }
 
 void ListsTest::templatesGoByDueDate()
 {
-    const auto add = [this](const QString &id, int days, bool active) {
+    TestDatabase db;
+    db.addSampleOwners();
+    const auto add = [&db](const QString &id, int days, bool active) {
         RecurringTransaction recurring = sampleRecurring(id);
         recurring.next_due_date = QDate::currentDate().addDays(days);
         recurring.is_active = active;
-        QVERIFY(m_database->recurring.insert(recurring));
+        QVERIFY(db.recurring.insert(recurring));
     };
     add(u"tomorrow"_s, 1, true);
     add(u"today"_s, 0, true);
     add(u"inactive"_s, -1, false);
     add(u"gone"_s, -1, true);
-    QVERIFY(m_database->recurring.softDelete(u"gone"_s));
-    QCOMPARE(m_database->takeSignals().size(), 5);
-    QCOMPARE(idsOf(m_database->recurring.listActive()),
+    QVERIFY(db.recurring.softDelete(u"gone"_s));
+    QCOMPARE(db.takeSignals().size(), 5);
+    QCOMPARE(idsOf(db.recurring.listActive()),
              (QStringList{u"inactive"_s, u"today"_s, u"tomorrow"_s}));
-    QCOMPARE(idsOf(m_database->recurring.listDue()), QStringList{u"today"_s});
-    QCOMPARE(idsOf(m_database->recurring.listPending()), QStringList{u"gone"_s});
+    QCOMPARE(idsOf(db.recurring.listDue()), QStringList{u"today"_s});
+    QCOMPARE(idsOf(db.recurring.listPending()), QStringList{u"gone"_s});
 }
 
 void ListsTest::brokenDueDateIsReported_data()
@@ -157,16 +154,18 @@ void ListsTest::brokenDueDateIsReported_data()
 
 void ListsTest::brokenDueDateIsReported()
 {
+    TestDatabase db;
+    db.addSampleOwners();
     QFETCH(QDate, due);
     QFETCH(int, warnings);
     QFETCH(bool, stored);
     RecurringTransaction recurring = sampleRecurring();
-    QVERIFY(m_database->recurring.insert(recurring));
+    QVERIFY(db.recurring.insert(recurring));
     recurring.next_due_date = due;
     const LogCatcher log;
-    QCOMPARE(m_database->recurring.update(recurring), stored);
+    QCOMPARE(db.recurring.update(recurring), stored);
     recurring.id = u"new"_s;
-    QCOMPARE(m_database->recurring.insert(recurring), stored);
+    QCOMPARE(db.recurring.insert(recurring), stored);
     QCOMPARE(LogCatcher::warnings().size(), 2 * warnings);
     const QString logged = u"RecurringRepository:: %1 saving recurring with broken nextDueDate: "
                            "id= \"%2\" payee= \"Rent "_s;
@@ -179,15 +178,17 @@ void ListsTest::brokenDueDateIsReported()
 
 void ListsTest::reconciliationsGoByStatement()
 {
+    TestDatabase db;
+    db.addSampleOwners();
     Reconciliation older = sampleReconciliation(u"older"_s);
     older.statement_date = QDate(2023, 1, 31);
     older.completed_at = sampleStamp(99999); // later than the other
-    QVERIFY(m_database->reconciliations.insert(older));
-    QVERIFY(m_database->reconciliations.insert(sampleReconciliation(u"newer"_s)));
-    QCOMPARE(idsOf(m_database->reconciliations.listByAccount(u"a"_s)),
+    QVERIFY(db.reconciliations.insert(older));
+    QVERIFY(db.reconciliations.insert(sampleReconciliation(u"newer"_s)));
+    QCOMPARE(idsOf(db.reconciliations.listByAccount(u"a"_s)),
              (QStringList{u"newer"_s, u"older"_s}));
-    QCOMPARE(m_database->reconciliations.latestForAccount(u"a"_s)->id, u"newer"_s);
-    QVERIFY(!m_database->reconciliations.latestForAccount(u"b"_s));
+    QCOMPARE(db.reconciliations.latestForAccount(u"a"_s)->id, u"newer"_s);
+    QVERIFY(!db.reconciliations.latestForAccount(u"b"_s));
 }
 
 PURSEWELL_TEST_MAIN(ListsTest)

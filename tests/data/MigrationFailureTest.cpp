@@ -23,7 +23,7 @@ private Q_SLOTS:
     void failedVersionLeavesNoTrace();
     void copyThatCannotBeMadeStopsTheMigration_data();
     void copyThatCannotBeMadeStopsTheMigration();
-    void refusedCommitKeepsTheCopy();
+    void refusedCommitFailsAndKeepsTheCopy();
     void missingScriptIsReported();
 
 private:
@@ -155,7 +155,7 @@ void MigrationFailureTest::copyThatCannotBeMadeStopsTheMigration()
     QVERIFY(!QFile::exists(m_file->copyPath() + u".tmp"_s));
 }
 
-void MigrationFailureTest::refusedCommitKeepsTheCopy()
+void MigrationFailureTest::refusedCommitFailsAndKeepsTheCopy()
 {
     m_file->makeVersion1();
     // A debt that SQLite looks at only when the transaction ends.
@@ -164,7 +164,8 @@ void MigrationFailureTest::refusedCommitKeepsTheCopy()
                  u"CREATE TRIGGER owing AFTER UPDATE ON reconciliations BEGIN "
                  "INSERT INTO debts VALUES ('nobody'); END"_s});
     const QStringList content = m_file->content();
-    migrateAnew();
+    QVERIFY(!migrateAnew());
+    QCOMPARE(m_errors.size(), 1);
     QCOMPARE(DatabaseFile::content(m_file->copyPath()), content);
     // The copy is whole, its search index included.
     QCOMPARE(DatabaseFile::column(m_file->copyPath(),

@@ -9,38 +9,10 @@ using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(SearchFilters)
 
-class SearchTest : public QObject
-{
-    Q_OBJECT
+namespace {
 
-private Q_SLOTS:
-    void init();
-    void cleanup() { m_database.reset(); }
-    void finds_data();
-    void finds();
-    void foundRowsAreWholeAndUpToDate();
-    void givesTheNewest200();
-
-private:
-    void add(const QString &id, const QString &accountId, QDate date, const QString &words,
-             bool cleared, const QString &categoryId = {});
-
-    std::unique_ptr<TestDatabase> m_database;
-};
-
-void SearchTest::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_database->addSampleOwners();
-    add(u"1"_s, u"a"_s, QDate(2024, 1, 1), u"Corner Shop/bread"_s, true, u"c"_s);
-    add(u"2"_s, u"a"_s, QDate(2024, 2, 29), u"Baker/bread and rolls"_s, false);
-    add(u"3"_s, u"b"_s, QDate(2024, 3, 1), u"corner pub/"_s + awkwardWords(), false, u"c"_s);
-    add(u"gone"_s, u"a"_s, QDate(2024, 2, 1), u"Corner Shop/bread"_s, true);
-    QVERIFY(m_database->transactions.softDelete(u"gone"_s));
-}
-
-void SearchTest::add(const QString &id, const QString &accountId, QDate date, const QString &words,
-                     bool cleared, const QString &categoryId)
+void add(TestDatabase &db, const QString &id, const QString &accountId, QDate date,
+         const QString &words, bool cleared, const QString &categoryId = {})
 {
     Transaction transaction = sampleTransaction(id);
     transaction.account_id = accountId;
@@ -50,8 +22,31 @@ void SearchTest::add(const QString &id, const QString &accountId, QDate date, co
     transaction.check_number = u"check"_s + id;
     transaction.category_id = categoryId;
     transaction.cleared = cleared;
-    QVERIFY(m_database->transactions.insert(transaction));
+    QVERIFY(db.transactions.insert(transaction));
 }
+
+void fill(TestDatabase &db)
+{
+    db.addSampleOwners();
+    add(db, u"1"_s, u"a"_s, QDate(2024, 1, 1), u"Corner Shop/bread"_s, true, u"c"_s);
+    add(db, u"2"_s, u"a"_s, QDate(2024, 2, 29), u"Baker/bread and rolls"_s, false);
+    add(db, u"3"_s, u"b"_s, QDate(2024, 3, 1), u"corner pub/"_s + awkwardWords(), false, u"c"_s);
+    add(db, u"gone"_s, u"a"_s, QDate(2024, 2, 1), u"Corner Shop/bread"_s, true);
+    QVERIFY(db.transactions.softDelete(u"gone"_s));
+}
+
+} // namespace
+
+class SearchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void finds_data();
+    void finds();
+    void foundRowsAreWholeAndUpToDate();
+    void givesTheNewest200();
+};
 
 void SearchTest::finds_data()
 {
@@ -83,11 +78,13 @@ void SearchTest::finds_data()
 
 void SearchTest::finds()
 {
+    TestDatabase db;
+    fill(db);
     QFETCH(QString, query);
     QFETCH(SearchFilters, filters);
     const LogCatcher log;
     QStringList ids;
-    for (const RegisterRow &row : m_database->transactions.search(query, filters))
+    for (const RegisterRow &row : db.transactions.search(query, filters))
         ids << row.id;
     QTEST(ids.join(u' '), "found");
     QCOMPARE(LogCatcher::warnings(), QStringList());
@@ -95,21 +92,25 @@ void SearchTest::finds()
 
 void SearchTest::foundRowsAreWholeAndUpToDate()
 {
-    Transaction edited = m_database->transactions.findById(u"3"_s).value();
+    TestDatabase db;
+    fill(db);
+    Transaction edited = db.transactions.findById(u"3"_s).value();
     edited.payee = u"Florist"_s;
-    QVERIFY(m_database->transactions.update(edited));
-    const RegisterRow row = m_database->transactions.search(u"florist"_s, {}).value(0);
+    QVERIFY(db.transactions.update(edited));
+    const RegisterRow row = db.transactions.search(u"florist"_s, {}).value(0);
     QVERIFY(static_cast<const Transaction &>(row) == edited);
     QCOMPARE(row.category_name, sampleCategory().name);
     QCOMPARE(row.balance, 0);
-    QCOMPARE(m_database->transactions.search(u"pub"_s, {}).size(), 0);
+    QCOMPARE(db.transactions.search(u"pub"_s, {}).size(), 0);
 }
 
 void SearchTest::givesTheNewest200()
 {
+    TestDatabase db;
+    db.addSampleOwners();
     for (int day = 0; day < 205; ++day)
-        add(u"many%1"_s.arg(day), u"b"_s, QDate(2025, 1, 1).addDays(day), u"Many"_s, true);
-    const QList<RegisterRow> rows = m_database->transactions.search(u""_s, {});
+        add(db, u"many%1"_s.arg(day), u"b"_s, QDate(2025, 1, 1).addDays(day), u"Many"_s, true);
+    const QList<RegisterRow> rows = db.transactions.search(u""_s, {});
     QCOMPARE(rows.size(), 200);
     QCOMPARE(rows.first().id, u"many204"_s);
     QCOMPARE(rows.last().id, u"many5"_s);

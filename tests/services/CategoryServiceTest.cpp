@@ -31,36 +31,20 @@ class CategoryServiceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void emptyDatabaseGetsTheDefaults();
     void namesDecideTheIds_data();
     void namesDecideTheIds();
     void translatedNamesGiveOtherIds();
     void oneLiveCategoryIsEnough();
     void deletedCategoriesAreInTheWay();
-
-private:
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<CategoryService> m_service;
 };
-
-void CategoryServiceTest::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_service = std::make_unique<CategoryService>(&m_database->categories);
-}
-
-void CategoryServiceTest::cleanup()
-{
-    m_service.reset();
-    m_database.reset();
-}
 
 void CategoryServiceTest::emptyDatabaseGetsTheDefaults()
 {
-    m_service->seedDefaults();
-    const QList<Category> seeded = m_database->categories.listActive();
+    TestDatabase db;
+    CategoryService service(&db.categories);
+    service.seedDefaults();
+    const QList<Category> seeded = db.categories.listActive();
     QCOMPARE(seeded.size(), 56);
     const auto count = [&](auto holds) {
         return std::count_if(seeded.begin(), seeded.end(), holds);
@@ -98,48 +82,56 @@ void CategoryServiceTest::namesDecideTheIds_data()
 
 void CategoryServiceTest::namesDecideTheIds()
 {
+    TestDatabase db;
+    CategoryService service(&db.categories);
     QFETCH(QString, id);
     QFETCH(QString, parent);
-    m_service->seedDefaults();
-    const std::optional<Category> category = m_database->categories.findById(id);
+    service.seedDefaults();
+    const std::optional<Category> category = db.categories.findById(id);
     QVERIFY(category);
     QTEST(category->name, "name");
     QTEST(category->tax_category, "taxCategory");
-    const std::optional<Category> above = m_database->categories.findById(category->parent_id);
+    const std::optional<Category> above = db.categories.findById(category->parent_id);
     QCOMPARE(above ? above->name : QString(), parent);
 }
 
 void CategoryServiceTest::translatedNamesGiveOtherIds()
 {
+    TestDatabase db;
+    CategoryService service(&db.categories);
     BracketLanguage language;
     QCoreApplication::installTranslator(&language);
-    m_service->seedDefaults();
+    service.seedDefaults();
     QCoreApplication::removeTranslator(&language);
     const std::optional<Category> category =
-        m_database->categories.findById(u"a27c4213-9d8c-54e6-8f00-78d1b2c9898d"_s);
+        db.categories.findById(u"a27c4213-9d8c-54e6-8f00-78d1b2c9898d"_s);
     QVERIFY(category);
     QCOMPARE(category->name, u"[HOA]"_s);
-    QCOMPARE(m_database->categories.findById(category->parent_id)->name, u"[Housing]"_s);
+    QCOMPARE(db.categories.findById(category->parent_id)->name, u"[Housing]"_s);
 }
 
 void CategoryServiceTest::oneLiveCategoryIsEnough()
 {
-    QVERIFY(m_database->categories.insert(sampleCategory()));
-    m_service->seedDefaults();
-    QCOMPARE(m_database->categories.countActive(), 1);
-    QVERIFY(m_database->categories.softDelete(u"c"_s));
-    m_service->seedDefaults();
-    QCOMPARE(m_database->categories.countActive(), 56);
+    TestDatabase db;
+    CategoryService service(&db.categories);
+    QVERIFY(db.categories.insert(sampleCategory()));
+    service.seedDefaults();
+    QCOMPARE(db.categories.countActive(), 1);
+    QVERIFY(db.categories.softDelete(u"c"_s));
+    service.seedDefaults();
+    QCOMPARE(db.categories.countActive(), 56);
 }
 
 void CategoryServiceTest::deletedCategoriesAreInTheWay()
 {
-    m_service->seedDefaults();
-    for (const Category &category : m_database->categories.listActive())
-        QVERIFY(m_database->categories.softDelete(category.id));
+    TestDatabase db;
+    CategoryService service(&db.categories);
+    service.seedDefaults();
+    for (const Category &category : db.categories.listActive())
+        QVERIFY(db.categories.softDelete(category.id));
     const LogCatcher log;
-    m_service->seedDefaults();
-    QCOMPARE(m_database->categories.countActive(), 0);
+    service.seedDefaults();
+    QCOMPARE(db.categories.countActive(), 0);
     QCOMPARE(LogCatcher::warnings().size(), 56);
 }
 
