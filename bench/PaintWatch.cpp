@@ -32,7 +32,7 @@ void PaintWatch::wait()
 
 bool PaintWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Paint)
-        m_unpainted.removeAll(watched);
+    if (event->type() == QEvent::Paint && m_unpainted.removeAll(watched) > 0)
+        m_paintedAt = std::chrono::steady_clock::now();
     return QObject::eventFilter(watched, event);
 }

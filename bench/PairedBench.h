@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -9,6 +10,8 @@ struct Pair
     std::function<void()> prepare{}; // runs before each measurement, not measured; may be empty
     std::function<void()> program{};
     std::function<void()> counterpart{};
+    // When the program had done what is measured, if that was before it returned; may be empty.
+    std::function<std::chrono::steady_clock::time_point()> finished{};
 };
 
 // A pair's line: what it is called, and the ratio wanted at most, 0 where none is.

@@ -151,6 +151,7 @@ void addSaving(const PairLine &line, const std::function<std::shared_ptr<Stage>(
             .program = [stage] { stage->untilPainted([&] { stage->screen->commitCurrentRow(); }); },
             .counterpart =
                 [stage, account] { stage->bench.state()->transactions()->registerRows(account); },
+            .finished = [stage] { return stage->paints->paintedAt(); },
         };
     });
 }
