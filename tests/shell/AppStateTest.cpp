@@ -2,6 +2,7 @@
 
 #include "core/Dates.h"
 #include "data/CategoryRepository.h"
+#include "data/Database.h"
 #include "data/PreferencesRepository.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/MoneyColors.h"
@@ -10,176 +11,185 @@
 
 using namespace Qt::StringLiterals;
 
+// The state, and the look that it sets.
 class AppStateTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void preferencesTakeEffect_data();
     void preferencesTakeEffect();
-    void scaledFontIsNotScaledAgain();
-    void defaultsAreSeededOnce();
     void currentAccountIsKept();
-    void currentAccountTellsChangesOnly();
-    void readyIsToldOnce();
-    void unusableDirectoryFails();
+    void colorsFollowTheTheme();
+    void wordsChooseTheTheme();
+    void rolesGiveSizesAndWeights_data();
+    void rolesGiveSizesAndWeights();
+    void scaleReachesWidgetsWithARole();
 
 private:
-    void writePreference(const QString &key, const QString &value);
+    void start(); // the state of a new run on the same data
 
-    std::unique_ptr<QTemporaryDir> m_directory;
+    QTemporaryDir m_directory;
+    std::unique_ptr<AppState> m_state;
     int m_localWeekStart = weekStart();
 };
 
 void AppStateTest::init()
 {
-    m_directory = std::make_unique<QTemporaryDir>();
-    qputenv("PURSEWELL_DATA_DIR", m_directory->path().toUtf8());
+    if (m_state) // a file of its own for each test would take long
+        QSqlQuery(u"DELETE FROM preferences"_s, m_state->database()->connection());
+    start();
 }
 
-void AppStateTest::cleanup()
+void AppStateTest::start()
 {
+    m_state.reset();
+    qputenv("PURSEWELL_DATA_DIR", m_directory.path().toUtf8());
     weekStart() = m_localWeekStart;
-    fontScale() = 100;
-    QApplication::setFont(baseFont());
-}
-
-void AppStateTest::writePreference(const QString &key, const QString &value)
-{
-    AppState state;
-    QVERIFY(state.initialize());
-    QVERIFY(state.preferences()->set(key, value));
+    QApplication::setFont(QFont(u"DejaVu Sans"_s, 10));
+    m_state = std::make_unique<AppState>();
+    QSignalSpy ready(m_state.get(), &AppState::databaseReady);
+    QVERIFY(m_state->initialize());
+    QCOMPARE(ready.size(), 1);
 }
 
 void AppStateTest::preferencesTakeEffect_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("scale");
-    QTest::addColumn<int>("firstDay"); // 0: the locale's
-    QTest::addColumn<QString>("theme");
-
-    const auto row = [](const char *name, const QString &key, const QString &value, int scale,
-                        int firstDay, const QString &theme) {
-        QTest::newRow(name) << key << value << scale << firstDay << theme;
-    };
-    row("scale", u"fontScale"_s, u"130"_s, 130, 0, u"system"_s);
-    row("scale in words", u"fontScale"_s, u"abc"_s, 100, 0, u"system"_s);
-    row("scale in hex", u"fontScale"_s, u"0x82"_s, 100, 0, u"system"_s);
-    row("scale empty", u"fontScale"_s, u""_s, 100, 0, u"system"_s);
-    row("scale too small", u"fontScale"_s, u"50"_s, 70, 0, u"system"_s);
-    row("scale too large", u"fontScale"_s, u"500"_s, 160, 0, u"system"_s);
-    row("week from Monday", u"weekStartDay"_s, u"1"_s, 100, 1, u"system"_s);
-    row("week from Saturday", u"weekStartDay"_s, u"6"_s, 100, 6, u"system"_s);
-    row("day 0", u"weekStartDay"_s, u"0"_s, 100, 0, u"system"_s);
-    row("day 8", u"weekStartDay"_s, u"8"_s, 100, 0, u"system"_s);
-    row("day in words", u"weekStartDay"_s, u"x"_s, 100, 0, u"system"_s);
-    row("dark", u"theme"_s, u"dark"_s, 100, 0, u"dark"_s);
-    row("theme unknown", u"theme"_s, u"sepia"_s, 100, 0, u"system"_s);
+    QTest::addColumn<int>("points");
+    QTest::addColumn<int>("firstDay");
+    QTest::newRow("scale") << u"fontScale"_s << u"130"_s << 13 << m_localWeekStart;
+    QTest::newRow("scale in words") << u"fontScale"_s << u"abc"_s << 10 << m_localWeekStart;
+    QTest::newRow("scale too small") << u"fontScale"_s << u"50"_s << 7 << m_localWeekStart;
+    QTest::newRow("scale too large") << u"fontScale"_s << u"500"_s << 16 << m_localWeekStart;
+    QTest::newRow("week from Saturday") << u"weekStartDay"_s << u"6"_s << 10 << 6;
+    QTest::newRow("day 0") << u"weekStartDay"_s << u"0"_s << 10 << m_localWeekStart;
+    QTest::newRow("day 8") << u"weekStartDay"_s << u"8"_s << 10 << m_localWeekStart;
+    QTest::newRow("day in words") << u"weekStartDay"_s << u"x"_s << 10 << m_localWeekStart;
+    QTest::newRow("dark") << u"theme"_s << u"dark"_s << 10 << m_localWeekStart;
 }
 
 void AppStateTest::preferencesTakeEffect()
 {
     QFETCH(QString, key);
     QFETCH(QString, value);
-    QFETCH(int, scale);
-    QFETCH(int, firstDay);
-    QFETCH(QString, theme);
-
-    writePreference(key, value);
-    AppState state;
-    QVERIFY(state.initialize());
-    QCOMPARE(ThemeManager::fontScale(), scale);
-    QCOMPARE(weekStart(), firstDay == 0 ? m_localWeekStart : firstDay);
-    QCOMPARE(state.preferences()->getOr(u"theme"_s, {}), theme);
-    QCOMPARE(isDarkPalette(), theme == u"dark"_s);
-}
-
-void AppStateTest::scaledFontIsNotScaledAgain()
-{
-    QFont font = QApplication::font();
-    font.setPointSize(10);
-    QApplication::setFont(font);
-    writePreference(u"fontScale"_s, u"150"_s);
-    QApplication::setFont(font);
-    AppState state;
-    QVERIFY(state.initialize());
-    QCOMPARE(QApplication::font().pointSize(), 15);
-    QCOMPARE(baseFont().pointSize(), 10);
-    state.themeManager()->setFontScale(200);
-    QCOMPARE(QApplication::font().pointSize(), 16);
-}
-
-void AppStateTest::defaultsAreSeededOnce()
-{
-    qsizetype seeded = 0;
-    {
-        AppState state;
-        QVERIFY(state.initialize());
-        seeded = state.categories()->listActive().size();
-        QVERIFY(seeded > 0);
-        QCOMPARE(state.currentAccountId(), QString());
-    }
-    AppState again;
-    QVERIFY(again.initialize());
-    QCOMPARE(again.categories()->listActive().size(), seeded);
+    QVERIFY(m_state->preferences()->set(key, value));
+    start();
+    QTEST(QApplication::font().pointSize(), "points");
+    QTEST(weekStart(), "firstDay");
+    QCOMPARE(isDarkPalette(), value == u"dark"_s);
+    m_state->themeManager()->setFontScale(120); // of the base, not of what is scaled already
+    QCOMPARE(QApplication::font().pointSize(), 12);
 }
 
 void AppStateTest::currentAccountIsKept()
 {
-    {
-        AppState state;
-        QVERIFY(state.initialize());
-        state.setCurrentAccountId(u"an account"_s);
+    const qsizetype seeded = m_state->categories()->listActive().size();
+    QVERIFY(seeded > 0);
+    for (const QString &id : {u"an account"_s, QString()}) { // though there is none
+        QSignalSpy changed(m_state.get(), &AppState::currentAccountChanged);
+        m_state->setCurrentAccountId(id);
+        m_state->setCurrentAccountId(id);
+        QCOMPARE(changed, QList<QVariantList>{{id}});
+        start();
+        QCOMPARE(m_state->currentAccountId(), id);
+        QCOMPARE(m_state->preferences()->getOr(u"lastViewedAccountId"_s, u"absent"_s), id);
+        QCOMPARE(m_state->categories()->listActive().size(), seeded); // not at every start
     }
-    {
-        AppState state;
-        QSignalSpy changed(&state, &AppState::currentAccountChanged);
-        QVERIFY(state.initialize());
-        QCOMPARE(state.currentAccountId(), u"an account"_s); // though there is none
-        QCOMPARE(changed.size(), 0);
-        state.setCurrentAccountId({});
-        QCOMPARE(state.preferences()->get(u"lastViewedAccountId"_s).value_or(u"absent"_s),
-                 QString());
+}
+
+void AppStateTest::colorsFollowTheTheme()
+{
+    const auto nameOf = [](QPalette::ColorGroup group, QPalette::ColorRole role) {
+        return QApplication::palette().color(group, role).name();
+    };
+    for (const bool dark : {true, false}) { // and nothing of the dark one is left
+        m_state->themeManager()->setTheme(dark ? ThemeManager::Dark : ThemeManager::Light);
+        QCOMPARE(nameOf(QPalette::Inactive, QPalette::Base), dark ? u"#152420"_s : u"#ffffff"_s);
+        QCOMPARE(nameOf(QPalette::Disabled, QPalette::Base), dark ? u"#152420"_s : u"#ffffff"_s);
+        QCOMPARE(nameOf(QPalette::Disabled, QPalette::Text), dark ? u"#3a5a4a"_s : u"#a0b5a8"_s);
+        QCOMPARE(negativeColor().name(), dark ? u"#ff8a80"_s : u"#c62828"_s);
     }
-    AppState state;
-    QVERIFY(state.initialize());
-    QCOMPARE(state.currentAccountId(), QString());
 }
 
-void AppStateTest::currentAccountTellsChangesOnly()
+void AppStateTest::wordsChooseTheTheme()
 {
-    AppState state;
-    QVERIFY(state.initialize());
-    QSignalSpy changed(&state, &AppState::currentAccountChanged);
-    QSignalSpy written(state.preferences(), &PreferencesRepository::changed);
-    state.setCurrentAccountId(u"one"_s);
-    state.setCurrentAccountId(u"one"_s);
-    QCOMPARE(changed, QList<QVariantList>{{u"one"_s}});
-    QCOMPARE(written, QList<QVariantList>{{u"lastViewedAccountId"_s}});
+    ThemeManager *themes = m_state->themeManager();
+    for (const QString &word : {u"light"_s, u"dark"_s, u"system"_s, u"Dark"_s}) {
+        themes->setTheme(ThemeManager::Dark); // our own palette must not pass for the desktop's
+        QSignalSpy changed(themes, &ThemeManager::themeChanged);
+        themes->setThemeByName(word);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(m_state->preferences()->getOr(u"theme"_s, {}),
+                 word == u"Dark"_s ? u"system"_s : word);
+        QCOMPARE(isDarkPalette(), word == u"dark"_s);
+        themes->setFontScale(120); // which sets the palette anew
+        QCOMPARE(isDarkPalette(), word == u"dark"_s);
+    }
 }
 
-void AppStateTest::readyIsToldOnce()
+void AppStateTest::rolesGiveSizesAndWeights_data()
 {
-    AppState state;
-    QSignalSpy ready(&state, &AppState::databaseReady);
-    QVERIFY(state.initialize());
-    QCOMPARE(ready.size(), 1);
+    QTest::addColumn<int>("basePoints"); // 0: a base font given in pixels
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<int>("weight");
+    QTest::newRow("figures") << 10 << 130 << int(FontRole::Monospace) << 13 << 400;
+    QTest::newRow("unknown role") << 10 << 100 << 8 << 10 << 300;
+    QTest::newRow("truncated, not rounded") << 9 << 70 << int(FontRole::Body) << 6 << 300;
+    QTest::newRow("caption stays legible") << 9 << 70 << int(FontRole::Caption) << 7 << 300;
+    QTest::newRow("only the body is scaled") << 10 << 160 << int(FontRole::Display) << 30 << 700;
+    QTest::newRow("base in pixels") << 0 << 130 << int(FontRole::Body) << 13 << 300;
+    QTest::newRow("never nothing") << 1 << 70 << int(FontRole::Body) << 1 << 300;
 }
 
-void AppStateTest::unusableDirectoryFails()
+void AppStateTest::rolesGiveSizesAndWeights()
 {
-    QFile file(m_directory->filePath(u"file"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    qputenv("PURSEWELL_DATA_DIR", (file.fileName() + u"/below"_s).toUtf8());
-    const LogCatcher log;
-    AppState state;
-    QSignalSpy ready(&state, &AppState::databaseReady);
-    QVERIFY(!state.initialize());
-    QCOMPARE(ready.size(), 0);
-    QVERIFY(!LogCatcher::warnings().isEmpty());
+    QFETCH(int, basePoints);
+    QFETCH(int, scale);
+    QFETCH(int, role);
+    baseFont().setWeight(QFont::Light);
+    if (basePoints > 0)
+        baseFont().setPointSize(basePoints);
+    else
+        baseFont().setPixelSize(40);
+    fontScale() = scale;
+
+    const QFont font = fontForRole(role);
+    QTEST(font.pointSize(), "points");
+    QTEST(int(font.weight()), "weight");
+    QCOMPARE(font.styleHint() == QFont::Monospace, role == FontRole::Monospace);
+}
+
+void AppStateTest::scaleReachesWidgetsWithARole()
+{
+    QWidget window;
+    QLabel heading(&window), bold(&window), italic(&window), own(&window), plain(&window);
+    applyFontRole(&heading, FontRole::Heading);
+    applyFontRole(&bold, FontRole::Body, QFont::Black);
+    applyFontRole(&italic, FontRole::Caption);
+    italic.setProperty(kFontItalicProperty, true);
+    own.setFont(QFont(u"DejaVu Sans"_s, 33));
+    applyFontRole(nullptr, FontRole::Heading);
+
+    ThemeManager *themes = m_state->themeManager();
+    themes->setFontScale(150);
+    QCOMPARE(heading.font().pointSize(), 19);
+    QCOMPARE(bold.font().weight(), QFont::Black);
+    QCOMPARE(italic.font().pointSize(), 13);
+    QVERIFY(italic.font().italic());
+    QCOMPARE(own.font().pointSize(), 33);
+    QTRY_COMPARE(plain.font().pointSize(), 15);
+
+    QSignalSpy changed(themes, &ThemeManager::fontScaleChanged);
+    for (const int used : {kMaxFontScale, kMinFontScale}) {
+        themes->setFontScale(used > 100 ? 500 : 1);
+        QCOMPARE(changed.takeFirst(), QVariantList{used});
+        QCOMPARE(m_state->preferences()->getOr(u"fontScale"_s, {}), QString::number(used));
+    }
 }
 
 PURSEWELL_TEST_MAIN(AppStateTest)

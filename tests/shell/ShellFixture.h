@@ -6,35 +6,28 @@
 #include "shell/MainWindow.h"
 #include "support/DialogAnswer.h"
 
-#include <QAction>
-#include <QLabel>
-#include <QTemporaryDir>
-
-#include <memory>
-
 // The state and the window on a database of their own. One at a time: the program has one
-// connection.
+// connection. The last member goes first: the window, before the repositories it listens to.
 class ShellFixture
 {
 public:
     ShellFixture();
-    ~ShellFixture();
 
     AppState *state() const { return m_state.get(); }
     MainWindow *window() const { return m_window.get(); }
-    MainWindow *openWindow();
-    void closeWindow();
+    MainWindow *openWindow(); // anew, when one is open
 
     // Sorted as added. The id is the name, so that failures can be read.
-    Account addAccount(const QString &name, Account account = {});
+    void addAccount(const QString &name, Account account = {});
     void addTransaction(const QString &accountId, qint64 amount);
-    QVariant valueOf(const QString &sql) const; // the first column of the first row
+    QString valueOf(const QString &sql) const; // the first column of the first row
 
     AccountList *list() const { return find<AccountList>(QStringLiteral("accountList")); }
-    QLabel *rowLabel(int row, const QString &name) const;
+    QLabel *rowLabel(int row, const char *name) const;
     QStringList listedNames() const;
-    QString totalText() const { return find<QLabel>(QStringLiteral("totalLabel"))->text(); }
-    QString currentPage() const;
+    QPoint centerOf(int row) const { return list()->visualItemRect(list()->item(row)).center(); }
+    QString labelText(const QString &name) const { return find<QLabel>(name)->text(); }
+    QString opened() const; // the account that all parts agree on, or the name of another page
     void trigger(const QString &actionName) const { find<QAction>(actionName)->trigger(); }
 
     template <typename Type> Type *find(const QString &name) const
