@@ -344,6 +344,12 @@ bool RegisterScreen::focusNextPrevChild(bool next)
 
 bool RegisterScreen::eventFilter(QObject *watched, QEvent *event)
 {
+    // A key that overtakes Tab's move belongs to the cell that the move leads to.
+    if (event->type() == QEvent::KeyPress && watched == m_view && m_view->finishHop()) {
+        QWidget *focused = QApplication::focusWidget();
+        if (focused && focused != m_view && m_view->isAncestorOf(focused))
+            return QCoreApplication::sendEvent(focused, event);
+    }
     const auto *widget = qobject_cast<QWidget *>(watched);
     if (event->type() == QEvent::KeyPress && widget
         && (widget == m_view || m_view->isAncestorOf(widget))

@@ -41,22 +41,12 @@ void RegisterTableView::dropActiveEditor()
 
 bool RegisterTableView::event(QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
-        return QTableView::event(event);
-
-    // A key that overtakes the hop belongs to the cell that the hop leads to.
-    if (m_hop != Hop::None) {
-        finishHop();
-        QWidget *focused = QApplication::focusWidget();
-        if (focused && focused != this && isAncestorOf(focused))
-            return QCoreApplication::sendEvent(focused, event);
-    }
-    const auto &key = *static_cast<QKeyEvent *>(event);
-    if (event->type() != QEvent::KeyPress || !isTabKey(key)
+    if (event->type() != QEvent::KeyPress || !isTabKey(*static_cast<QKeyEvent *>(event))
         || PayeeMemoEditor::around(QApplication::focusWidget()))
         return QTableView::event(event);
 
     // With no editor open, Tab walks like the arrow keys and opens the cell that it comes to.
+    const auto &key = *static_cast<QKeyEvent *>(event);
     QKeyEvent step(QEvent::KeyPress, goesBack(key) ? Qt::Key_Left : Qt::Key_Right, Qt::NoModifier);
     QTableView::event(&step);
     if (currentIndex().isValid())
@@ -104,13 +94,14 @@ void RegisterTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndE
     QTimer::singleShot(0, this, &RegisterTableView::finishHop);
 }
 
-void RegisterTableView::finishHop()
+bool RegisterTableView::finishHop()
 {
     const Hop hop = std::exchange(m_hop, Hop::None);
     if (hop == Hop::None || !m_hopFrom.isValid())
-        return;
+        return false;
     setCurrentIndex(m_hopFrom);
     moveToField(hop == Hop::Next);
+    return true;
 }
 
 void RegisterTableView::moveToField(bool next)

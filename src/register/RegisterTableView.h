@@ -18,6 +18,10 @@ public:
     QWidget *activeEditor() const; // at the current cell, or null
     void dropActiveEditor(); // closes it without taking its text
 
+    // Tab moves on once the event loop is done with the old editor. This moves at once, and gives
+    // false when no move was waiting.
+    bool finishHop();
+
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -31,7 +35,6 @@ private:
     enum class Hop { None, Next, Previous };
 
     void moveToField(bool next);
-    void finishHop();
 
     RegisterScreen *m_screen;
     Hop m_hop = Hop::None; // a move to the next cell that waits for the editor to be gone

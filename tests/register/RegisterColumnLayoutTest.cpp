@@ -1,166 +1,124 @@
-#include "core/state/AppState.h"
-#include "data/PreferencesRepository.h"
-#include "register/RegisterColumn.h"
 #include "register/RegisterFixture.h"
-#include "support/TestSupport.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QHeaderView>
 #include <QMenu>
 #include <QSettings>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+using namespace RegisterColumn;
 
-class RegisterColumnLayoutTest : public QObject
+class RegisterColumnLayoutTest : public RegisterFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
-    void defaultWidths();
     void layoutComesBackInTheNextScreen();
     void storedNonsenseIsPutRight();
-    void firstSortFollowsThePreference_data();
-    void firstSortFollowsThePreference();
-    void preferenceSortsAtOnce();
+    void preferenceSortsAtOnceAndFirst();
     void headerMenuHidesColumnsAndResets();
     void twoLineModeGivesTheMemoColumnBack();
 
 private:
-    std::unique_ptr<RegisterFixture> m_fixture;
+    static std::pair<int, Qt::SortOrder> sortOf(const RegisterScreen &screen)
+    {
+        const auto *model = screen.findChild<RegisterModel *>();
+        return {model->sortColumn(), model->sortOrder()};
+    }
+    void chooseInHeaderMenu(const QString &text);
+    void setTwoLineMode(bool enabled)
+    {
+        setPreference(u"registerTwoLine"_s, enabled);
+        screen().refresh();
+    }
+
+    QStringList m_disabled; // entries of the last menu
 };
-
-void RegisterColumnLayoutTest::init()
-{
-    m_fixture = std::make_unique<RegisterFixture>();
-}
-
-void RegisterColumnLayoutTest::cleanup()
-{
-    m_fixture.reset();
-}
-
-void RegisterColumnLayoutTest::defaultWidths()
-{
-    QList<int> widths;
-    for (int column = 0; column < RegisterColumn::kCount; ++column)
-        widths << m_fixture->view().columnWidth(column);
-    QCOMPARE(widths, QList<int>({130, 60, 250, 180, 180, 100, 100, 35, 110}));
-}
 
 void RegisterColumnLayoutTest::layoutComesBackInTheNextScreen()
 {
-    m_fixture->view().setColumnWidth(RegisterColumn::Payee, 333);
-    m_fixture->view().sortByColumn(RegisterColumn::Memo, Qt::DescendingOrder);
+    view().setColumnWidth(Payee, 333);
+    view().sortByColumn(Memo, Qt::DescendingOrder);
     QSettings().setValue(u"register/colHidden/1"_s, true);
-
-    RegisterScreen next(&m_fixture->state());
-    const auto *view = next.findChild<RegisterTableView *>();
-    QCOMPARE(view->columnWidth(RegisterColumn::Payee), 333);
-    QVERIFY(view->isColumnHidden(RegisterColumn::CheckNumber));
-    const auto *model = next.findChild<RegisterModel *>();
-    QCOMPARE(model->sortColumn(), int(RegisterColumn::Memo));
-    QCOMPARE(model->sortOrder(), Qt::DescendingOrder);
+    const RegisterScreen next(&state());
+    const auto *nextView = next.findChild<RegisterTableView *>();
+    QCOMPARE(nextView->columnWidth(Payee), 333);
+    QVERIFY(nextView->isColumnHidden(CheckNumber));
     // A hidden column keeps the width that it had.
     QVERIFY(!QSettings().contains(u"register/colWidth/1"_s));
+    QCOMPARE(sortOf(next), std::pair(Memo, Qt::DescendingOrder));
 }
 
 void RegisterColumnLayoutTest::storedNonsenseIsPutRight()
 {
-    QSettings settings;
-    settings.setValue(u"register/colHidden/0"_s, true);
-    settings.setValue(u"register/colHidden/8"_s, true);
-    settings.setValue(u"register/sortColumn"_s, 9);
-    settings.setValue(u"register/sortOrder"_s, 1);
-    RegisterScreen next(&m_fixture->state());
-    const auto *view = next.findChild<RegisterTableView *>();
-    QVERIFY(!view->isColumnHidden(RegisterColumn::Date));
-    QVERIFY(!view->isColumnHidden(RegisterColumn::Balance));
-    QCOMPARE(next.findChild<RegisterModel *>()->sortColumn(), 0);
-    QCOMPARE(next.findChild<RegisterModel *>()->sortOrder(), Qt::DescendingOrder);
+    for (const auto &[key, value] : {std::pair{u"colHidden/0"_s, 1}, std::pair{u"colHidden/8"_s, 1},
+                                     std::pair{u"sortColumn"_s, 9}, std::pair{u"sortOrder"_s, 1}})
+        QSettings().setValue(u"register/"_s + key, value);
+    const RegisterScreen next(&state());
+    const auto *nextView = next.findChild<RegisterTableView *>();
+    QVERIFY(!nextView->isColumnHidden(Date) && !nextView->isColumnHidden(Balance));
+    QCOMPARE(sortOf(next), std::pair(Date, Qt::DescendingOrder));
 }
 
-void RegisterColumnLayoutTest::firstSortFollowsThePreference_data()
+void RegisterColumnLayoutTest::preferenceSortsAtOnceAndFirst()
 {
-    QTest::addColumn<bool>("newestFirst");
-    QTest::newRow("oldest first") << false;
-    QTest::newRow("newest first") << true;
+    for (const Qt::SortOrder order : {Qt::DescendingOrder, Qt::AscendingOrder}) {
+        view().sortByColumn(Payee, Qt::AscendingOrder);
+        setPreference(u"registerNewestFirst"_s, order == Qt::DescendingOrder);
+        QCOMPARE(sortOf(screen()), std::pair(Date, order));
+        QSettings().remove(u"register"_s);
+        QCOMPARE(sortOf(RegisterScreen(&state())), std::pair(Date, order));
+    }
 }
 
-void RegisterColumnLayoutTest::firstSortFollowsThePreference()
+void RegisterColumnLayoutTest::chooseInHeaderMenu(const QString &text)
 {
-    QFETCH(bool, newestFirst);
-    m_fixture->state().preferences()->setBool(u"registerNewestFirst"_s, newestFirst);
-    QSettings().remove(u"register"_s);
-    RegisterScreen next(&m_fixture->state());
-    QCOMPARE(next.findChild<RegisterModel *>()->sortOrder(),
-             newestFirst ? Qt::DescendingOrder : Qt::AscendingOrder);
-}
-
-void RegisterColumnLayoutTest::preferenceSortsAtOnce()
-{
-    m_fixture->view().sortByColumn(RegisterColumn::Payee, Qt::AscendingOrder);
-    m_fixture->state().preferences()->setBool(u"registerNewestFirst"_s, true);
-    QCOMPARE(m_fixture->model().sortColumn(), 0);
-    QCOMPARE(m_fixture->model().sortOrder(), Qt::DescendingOrder);
-    m_fixture->state().preferences()->setBool(u"registerNewestFirst"_s, false);
-    QCOMPARE(m_fixture->model().sortOrder(), Qt::AscendingOrder);
+    m_disabled.clear();
+    QTimer::singleShot(0, this, [this, text] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        for (QAction *action : menu->actions()) {
+            if (!action->isEnabled() && !action->isSeparator())
+                m_disabled << action->text();
+            if (action->text() == text)
+                action->trigger();
+        }
+        menu->close();
+    });
+    screen().showHeaderContextMenu({5, 5});
 }
 
 void RegisterColumnLayoutTest::headerMenuHidesColumnsAndResets()
 {
-    m_fixture->openAccount(m_fixture->addAccount(u"Checking"_s));
-    QStringList disabled;
-    const auto choose = [&](const QString &text) {
-        disabled.clear();
-        QTimer::singleShot(0, this, [&disabled, text] {
-            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-            QVERIFY(menu);
-            for (QAction *action : menu->actions()) {
-                if (!action->isEnabled() && !action->isSeparator())
-                    disabled << action->text();
-            }
-            for (QAction *action : menu->actions()) {
-                if (action->text() == text)
-                    action->trigger();
-            }
-            menu->close();
-        });
-        m_fixture->screen().showHeaderContextMenu({5, 5});
-    };
-    choose(u"Chk #"_s);
-    QCOMPARE(disabled, QStringList({u"Date"_s, u"Balance"_s}));
-    QVERIFY(m_fixture->view().isColumnHidden(RegisterColumn::CheckNumber));
+    openAccount();
+    const int width = view().columnWidth(Payee);
+    chooseInHeaderMenu(u"Chk #"_s);
+    QCOMPARE(m_disabled, QStringList({u"Date"_s, u"Balance"_s}));
+    QVERIFY(view().isColumnHidden(CheckNumber));
     QVERIFY(QSettings().value(u"register/colHidden/1"_s).toBool());
-    m_fixture->view().setColumnWidth(RegisterColumn::Payee, 99);
-    choose(u"Reset register layout"_s);
-    QVERIFY(!m_fixture->view().isColumnHidden(RegisterColumn::CheckNumber));
-    QCOMPARE(m_fixture->view().columnWidth(RegisterColumn::Payee), 250);
-
-    m_fixture->state().preferences()->setBool(u"registerTwoLine"_s, true);
-    m_fixture->screen().refresh();
-    choose(QString());
-    QCOMPARE(disabled, QStringList({u"Date"_s, u"Memo"_s, u"Balance"_s}));
+    view().setColumnWidth(Payee, 99);
+    chooseInHeaderMenu(u"Reset register layout"_s);
+    QVERIFY(!view().isColumnHidden(CheckNumber));
+    QCOMPARE(view().columnWidth(Payee), width);
+    setTwoLineMode(true);
+    chooseInHeaderMenu({});
+    QCOMPARE(m_disabled, QStringList({u"Date"_s, u"Memo"_s, u"Balance"_s}));
 }
 
 void RegisterColumnLayoutTest::twoLineModeGivesTheMemoColumnBack()
 {
-    m_fixture->openAccount(m_fixture->addAccount(u"Checking"_s));
+    openAccount();
+    const int width = view().columnWidth(Memo);
+    const int height = view().rowHeight(0);
     for (const bool hidden : {true, false}) {
         QSettings().setValue(u"register/colHidden/4"_s, hidden);
-        m_fixture->state().preferences()->setBool(u"registerTwoLine"_s, true);
-        m_fixture->screen().refresh();
-        QVERIFY(m_fixture->view().isColumnHidden(RegisterColumn::Memo));
-        m_fixture->state().preferences()->setBool(u"registerTwoLine"_s, false);
-        m_fixture->screen().refresh();
-        QCOMPARE(m_fixture->view().isColumnHidden(RegisterColumn::Memo), hidden);
+        setTwoLineMode(true);
+        QVERIFY(view().isColumnHidden(Memo));
+        QVERIFY(view().rowHeight(0) > height);
+        setTwoLineMode(false);
+        QCOMPARE(view().isColumnHidden(Memo), hidden);
+        QCOMPARE(view().rowHeight(0), height);
     }
-    QCOMPARE(m_fixture->view().columnWidth(RegisterColumn::Memo), 180);
+    QCOMPARE(view().columnWidth(Memo), width);
 }
 
 PURSEWELL_TEST_MAIN(RegisterColumnLayoutTest)

@@ -1,67 +1,62 @@
 #include "register/RegisterFixture.h"
 
 #include "core/Ids.h"
-#include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "data/Database.h"
 #include "data/TransactionRepository.h"
-#include "register/PayeeMemoEditor.h"
+#include "support/DialogAnswer.h"
 
-#include <QApplication>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMetaProperty>
 #include <QSettings>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
-#include <QTest>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
 
-RegisterFixture::RegisterFixture()
-    : m_nextStamp(QDate(2024, 1, 1), QTime(12, 0), Qt::UTC)
+void RegisterFixture::init()
 {
     QSettings().clear();
-    qputenv("PURSEWELL_DATA_DIR", m_directory.path().toUtf8());
+    m_nextStamp = QDateTime(QDate(2024, 1, 1), QTime(12, 0), Qt::UTC);
+    m_directory = std::make_unique<QTemporaryDir>();
+    qputenv("PURSEWELL_DATA_DIR", m_directory->path().toUtf8());
     m_state = std::make_unique<AppState>();
-    if (!m_state->initialize())
-        qFatal("the fixture's database cannot be opened");
+    QVERIFY(m_state->initialize());
     m_screen = std::make_unique<RegisterScreen>(m_state.get());
     m_view = m_screen->findChild<RegisterTableView *>();
     m_model = m_screen->findChild<RegisterModel *>();
+    m_checking = addAccount(u"Checking"_s);
 }
 
-RegisterFixture::~RegisterFixture() = default;
-
-QString RegisterFixture::addAccount(const QString &name, const QString &currency,
-                                    qint64 startingBalance)
+void RegisterFixture::cleanup()
 {
-    Account account;
+    m_screen.reset();
+    m_state.reset();
+}
+
+QString RegisterFixture::addAccount(const QString &name, const Account &rest)
+{
+    Account account = rest;
     account.id = newId();
     account.name = name;
-    account.currency = currencyFromString(currency);
-    account.starting_balance = startingBalance;
-    account.created_at = m_nextStamp;
-    account.updated_at = m_nextStamp;
+    account.created_at = account.updated_at = m_nextStamp;
     m_state->accounts()->insert(account);
     return account.id;
 }
 
-Transaction RegisterFixture::addTransaction(const QString &accountId, const QString &date,
-                                            const QString &payee, qint64 amount,
-                                            const Transaction &rest)
+Transaction RegisterFixture::addTransaction(const QString &date, const QString &payee,
+                                            qint64 amount, const Transaction &rest)
 {
     m_nextStamp = m_nextStamp.addSecs(1);
     Transaction transaction = rest;
     transaction.id = newId();
-    transaction.account_id = accountId;
+    transaction.account_id = rest.account_id.isEmpty() ? m_checking : rest.account_id;
     transaction.date = QDate::fromString(date, Qt::ISODate);
     transaction.payee = payee;
     transaction.amount = amount;
-    transaction.created_at = m_nextStamp;
-    transaction.updated_at = m_nextStamp;
+    transaction.created_at = transaction.updated_at = m_nextStamp;
     m_state->transactions()->insert(transaction);
     return transaction;
 }
@@ -70,7 +65,7 @@ void RegisterFixture::openAccount(const QString &accountId)
 {
     m_screen->resize(1280, 600);
     m_screen->show();
-    m_screen->setAccount(accountId);
+    m_screen->setAccount(accountId.isEmpty() ? m_checking : accountId);
     m_screen->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
     m_view->setFocus();
@@ -88,12 +83,12 @@ void RegisterFixture::type(const QString &text)
         QTest::keyClick(m_screen->windowHandle(), character.toLatin1());
 }
 
-void RegisterFixture::typeAndEnter(const QString &text)
+void RegisterFixture::enter(const QString &text, Qt::Key key)
 {
     type(text);
-    if (QApplication::activePopupWidget())
-        press(Qt::Key_Return); // the first only closes the completion list
-    press(Qt::Key_Return);
+    if (key == Qt::Key_Return && QApplication::activePopupWidget())
+        press(key); // the first only closes the completion list
+    press(key);
 }
 
 void RegisterFixture::click(int row, int column)
@@ -102,38 +97,30 @@ void RegisterFixture::click(int row, int column)
     QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {}, cell.center());
 }
 
-void RegisterFixture::goTo(int row, int column)
+void RegisterFixture::edit(int row, int column, const QString &text)
 {
-    m_view->setCurrentIndex(m_model->index(row, column));
+    goTo(row, column);
+    press(Qt::Key_F2);
+    type(text);
 }
 
-QWidget *RegisterFixture::editor()
+QString RegisterFixture::answering(QMessageBox::StandardButton button,
+                                   const std::function<void()> &act)
 {
-    return m_view->activeEditor();
+    QString asked;
+    const DialogAnswer answer(u"deleteTransactionQuestion"_s, [&](QDialog *question) {
+        const auto *box = qobject_cast<QMessageBox *>(question);
+        asked = box->text();
+        box->button(button)->click();
+    });
+    act();
+    return asked;
 }
 
 QString RegisterFixture::editorText()
 {
-    if (auto *line = qobject_cast<QLineEdit *>(editor()))
-        return line->text();
-    if (auto *combo = qobject_cast<QComboBox *>(editor()))
-        return combo->currentText();
-    const auto *focused = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-    return focused && PayeeMemoEditor::around(QApplication::focusWidget()) ? focused->text()
-                                                                           : QString();
-}
-
-QString RegisterFixture::shown(int row, int column)
-{
-    return m_model->index(row, column).data(Qt::DisplayRole).toString();
-}
-
-QStringList RegisterFixture::shownRow(int row)
-{
-    QStringList texts;
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        texts << shown(row, column);
-    return texts;
+    const QWidget *focused = QApplication::focusWidget();
+    return focused ? focused->metaObject()->userProperty().read(focused).toString() : QString();
 }
 
 QString RegisterFixture::message()
@@ -141,12 +128,16 @@ QString RegisterFixture::message()
     return m_screen->findChild<QLabel *>(u"messageLabel"_s)->text();
 }
 
-QStringList RegisterFixture::stored(const QString &columns, const QString &where)
+QString RegisterFixture::stored(const QString &columns, const QString &where)
+{
+    return run(u"SELECT %1 FROM transactions WHERE deleted_at IS NULL AND %2 "
+               "ORDER BY date, created_at, amount"_s.arg(columns, where));
+}
+
+QString RegisterFixture::run(const QString &statement)
 {
     QSqlQuery query(m_state->database()->connection());
-    const QString text = u"SELECT %1 FROM transactions WHERE deleted_at IS NULL AND %2 "
-                         "ORDER BY date, created_at, amount"_s.arg(columns, where);
-    if (!query.exec(text))
+    if (!query.exec(statement))
         qFatal("%s", qPrintable(query.lastError().text()));
     QStringList rows;
     while (query.next()) {
@@ -155,22 +146,11 @@ QStringList RegisterFixture::stored(const QString &columns, const QString &where
             values << query.value(i).toString();
         rows << values.join(u'|');
     }
-    return rows;
-}
-
-void RegisterFixture::run(const QString &statement)
-{
-    QSqlQuery query(m_state->database()->connection());
-    if (!query.exec(statement))
-        qFatal("%s", qPrintable(query.lastError().text()));
+    return rows.join(u"; "_s);
 }
 
 QString RegisterFixture::categoryId(const QString &name, const QString &parent)
 {
-    QSqlQuery query(m_state->database()->connection());
-    query.prepare(u"SELECT c.id FROM categories c LEFT JOIN categories p ON p.id = c.parent_id "
-                  "WHERE c.name = ? AND ifnull(p.name, '') = ?"_s);
-    query.addBindValue(name);
-    query.addBindValue(parent.isNull() ? u""_s : parent);
-    return query.exec() && query.next() ? query.value(0).toString() : QString();
+    return run(u"SELECT c.id FROM categories c LEFT JOIN categories p ON p.id = c.parent_id "
+               "WHERE c.name = '%1' AND ifnull(p.name, '') = '%2'"_s.arg(name, parent));
 }

@@ -1,56 +1,73 @@
 #pragma once
 
+#include "core/state/AppState.h"
+#include "data/Account.h"
+#include "data/PreferencesRepository.h"
+#include "register/RegisterColumn.h"
 #include "register/RegisterModel.h"
 #include "register/RegisterScreen.h"
 #include "register/RegisterTableView.h"
+#include "support/TestSupport.h"
 
+#include <QApplication>
+#include <QMessageBox>
 #include <QTemporaryDir>
+#include <QTest>
 
+#include <functional>
 #include <memory>
 
-class AppState;
-
-// A shown register over a database of its own, driven by key events that go the way of real ones:
-// through the window, to whatever holds the focus or the open popup.
-class RegisterFixture
+// The base of a test of the register: for each test function a new one, over a database of its own
+// with the account "Checking". Its keys go the way of real ones: through the window, to whatever
+// holds the focus or the open popup.
+class RegisterFixture : public QObject
 {
-public:
-    RegisterFixture();
-    ~RegisterFixture();
+    Q_OBJECT
 
+protected Q_SLOTS:
+    void init();
+    void cleanup();
+
+protected:
     AppState &state() { return *m_state; }
     RegisterScreen &screen() { return *m_screen; }
     RegisterTableView &view() { return *m_view; }
     RegisterModel &model() { return *m_model; }
 
-    // Returns the account's id.
-    QString addAccount(const QString &name, const QString &currency = QStringLiteral("USD"),
-                       qint64 startingBalance = 0);
-    // Stores a transaction as it would have been typed long ago. Later calls count as created
-    // later.
-    Transaction addTransaction(const QString &accountId, const QString &date, const QString &payee,
-                               qint64 amount, const Transaction &rest = {});
-    void openAccount(const QString &accountId); // and shows the window
+    void setPreference(const QString &key, bool on) { m_state->preferences()->setBool(key, on); }
+    QString addAccount(const QString &name, const Account &rest = {}); // returns the id
+    // Stores a transaction as it would have been typed long ago, in Checking if the rest names no
+    // account. Later calls count as created later.
+    Transaction addTransaction(const QString &date, const QString &payee, qint64 amount,
+                               const Transaction &rest = {});
+    void openAccount(const QString &accountId = {}); // Checking if empty; shows the window
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void save() { press(Qt::Key_Return, Qt::ControlModifier); }
     void type(const QString &text); // into whatever holds the focus, replacing its selection
-    void typeAndEnter(const QString &text); // types, then Enter
+    void enter(const QString &text, Qt::Key key = Qt::Key_Return); // types, then leaves the cell
     void click(int row, int column);
-    void goTo(int row, int column); // moves the cursor without opening an editor
+    // Moves the cursor without opening an editor.
+    void goTo(int row, int column) { m_view->setCurrentIndex(m_model->index(row, column)); }
+    void edit(int row, int column, const QString &text = {}); // opens the cell's editor and types
+    // Presses that button of the question that the act asks, if it does. Returns the question.
+    QString answering(QMessageBox::StandardButton button, const std::function<void()> &act);
 
-    QWidget *editor(); // open at the current cell, or null
-    QString editorText();
-    QString shown(int row, int column); // what the cell displays
-    QStringList shownRow(int row);
+    QWidget *editor() { return m_view->activeEditor(); } // open at the current cell, or null
+    QString editorText(); // of the editor that has the focus
+    int currentColumn() { return m_view->currentIndex().column(); }
+    QString shown(int row, int column) { return m_model->index(row, column).data().toString(); }
     QString message(); // under the grid
 
-    // The live rows of the table, one text a row, "|" between the columns asked for.
-    QStringList stored(const QString &columns, const QString &where = QStringLiteral("1 = 1"));
-    void run(const QString &statement);
+    // The live rows of the table: "|" between the columns asked for, "; " between the rows.
+    QString stored(const QString &columns, const QString &where = QStringLiteral("1 = 1"));
+    QString run(const QString &statement); // any statement; its rows as above
     QString categoryId(const QString &name, const QString &parent = {});
 
+    QString m_checking; // an id
+
 private:
-    QTemporaryDir m_directory;
+    std::unique_ptr<QTemporaryDir> m_directory;
     std::unique_ptr<AppState> m_state;
     std::unique_ptr<RegisterScreen> m_screen;
     RegisterTableView *m_view = nullptr;

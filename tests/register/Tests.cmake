@@ -3,7 +3,8 @@ add_library(pursewell_register_fixture STATIC
 target_link_libraries(pursewell_register_fixture PUBLIC pursewell_register pursewell_test_support)
 target_precompile_headers(pursewell_register_fixture REUSE_FROM pursewell_test_support)
 
-pursewell_test(AccountFormDialogTest LABEL widget USES pursewell_register)
+pursewell_test(AccountFormDialogTest LABEL widget USES pursewell_register
+               SOURCES ../support/SampleRecords.cpp)
 pursewell_test(DateFieldsTest LABEL widget USES pursewell_register)
 pursewell_test(RegisterColumnLayoutTest LABEL widget USES pursewell_register_fixture)
 pursewell_test(RegisterEntryTest LABEL widget USES pursewell_register_fixture)
