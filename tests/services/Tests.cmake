@@ -1,1 +1,3 @@
 pursewell_test(CategoryServiceTest LABEL unit USES pursewell_services pursewell_test_database)
+pursewell_test(RecurringServiceTest LABEL unit USES pursewell_services pursewell_test_database)
+pursewell_test(SampleDataServiceTest LABEL unit USES pursewell_services pursewell_test_database)

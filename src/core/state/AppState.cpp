@@ -11,6 +11,7 @@
 #include "data/SplitLineRepository.h"
 #include "data/TransactionRepository.h"
 #include "services/CategoryService.h"
+#include "services/RecurringService.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/ThemeManager.h"
 
@@ -40,6 +41,8 @@ bool AppState::initialize()
         return false;
     createRepositories();
     m_categoryService = new CategoryService(m_categories, this);
+    m_recurringService =
+        new RecurringService(m_recurring, m_transactions, m_accounts, this, m_database);
     applyLook();
     readWeekStart();
     m_categoryService->seedDefaults();

@@ -10,6 +10,7 @@ class Database;
 class PreferencesRepository;
 class ReconciliationRepository;
 class RecurringRepository;
+class RecurringService;
 class SplitLineRepository;
 class ThemeManager;
 class TransactionRepository;
@@ -37,6 +38,7 @@ public:
     RecurringRepository *recurring() const { return m_recurring; }
     ReconciliationRepository *reconciliations() const { return m_reconciliations; }
     CategoryService *categoryService() const { return m_categoryService; }
+    RecurringService *recurringService() const { return m_recurringService; }
     ThemeManager *themeManager() const { return m_themeManager; }
 
     // Empty when none is selected. At start the one that was shown last, which may be gone by now.
@@ -62,6 +64,7 @@ private:
     RecurringRepository *m_recurring = nullptr;
     ReconciliationRepository *m_reconciliations = nullptr;
     CategoryService *m_categoryService = nullptr;
+    RecurringService *m_recurringService = nullptr;
     ThemeManager *m_themeManager = nullptr;
     QString m_currentAccountId{};
 };

@@ -1,0 +1,107 @@
+#include "services/SampleDataService.h"
+
+#include "services/CategoryService.h"
+#include "support/SampleRecords.h"
+#include "support/TestDatabase.h"
+#include "support/TestSupport.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A language in which every text is the English one in brackets.
+class BracketLanguage : public QTranslator
+{
+public:
+    QString translate(const char *, const char *sourceText, const char *, int) const override
+    {
+        return u"[%1]"_s.arg(QString::fromUtf8(sourceText));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class SampleDataServiceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void translatedRowsFindTheirCategories();
+    void householdLooksRecent();
+    void clearingLeavesTheRest();
+};
+
+void SampleDataServiceTest::translatedRowsFindTheirCategories()
+{
+    TestDatabase database;
+    BracketLanguage language;
+    QCoreApplication::installTranslator(&language);
+    CategoryService(&database.categories).seedDefaults();
+    SampleDataService(database.get()).loadSampleData();
+    const auto list = [&](const QString &memos) {
+        return database
+            .value(u"SELECT group_concat(memo, '; ') FROM (%1 ORDER BY memo)"_s.arg(memos))
+            .toString();
+    };
+    QCOMPARE(list(u"SELECT DISTINCT memo FROM transactions WHERE category_id IS NULL"_s),
+             u"[Credit card payment]; [Monthly savings]"_s);
+    QCOMPARE(list(u"SELECT memo FROM transactions WHERE category_id = (SELECT c.id FROM categories "
+                  "c JOIN categories p ON p.id = c.parent_id "
+                  "WHERE p.name = '[Insurance]' AND c.name = '[Auto]')"_s),
+             u"[Auto insurance]"_s);
+}
+
+void SampleDataServiceTest::householdLooksRecent()
+{
+    TestDatabase database;
+    SampleDataService service(database.get(), nullptr, [] { return QDate(2024, 3, 1); });
+    service.loadSampleData();
+    const auto text = [&](const QString &statement) {
+        return database.value(statement).toString();
+    };
+    QCOMPARE(text(u"SELECT group_concat(row, '; ') FROM (SELECT substr(account_id, 13) || ' ' || "
+                  "COUNT(*) || ' ' || SUM(amount) || ' ' || COUNT(transfer_link_id) || ' ' || "
+                  "SUM(cleared) || ' ' || SUM(reconciled) "
+                  "|| ' ' || MIN(date) || ' ' || MAX(date) AS row "
+                  "FROM transactions GROUP BY account_id)"_s),
+             u"checking 33 875960 2 26 16 2024-01-01 2024-03-01; "
+             "savings 4 101695 2 3 0 2024-01-16 2024-03-01; "
+             "visa 12 -3839 0 7 0 2024-01-06 2024-02-28"_s);
+    QCOMPARE(text(u"SELECT group_concat(row, '; ') FROM (SELECT memo || ' ' || amount || ' ' || "
+                  "frequency || ' ' || start_date || ' ' || next_due_date AS row "
+                  "FROM recurring_transactions ORDER BY memo)"_s),
+             u"Biweekly paycheck 285000 biweekly 2024-01-01 2024-03-09; "
+             "Monthly rent -145000 monthly 2024-01-01 2024-03-02; "
+             "Monthly savings -50000 monthly 2024-01-01 2024-03-02"_s);
+    // Two pairs, with the accounts crosswise.
+    QCOMPARE(text(u"SELECT COUNT(*) FROM transactions a JOIN transactions b ON "
+                  "a.transfer_link_id = b.transfer_link_id AND a.date = b.date "
+                  "AND a.transfer_dest_account_id = b.account_id AND a.amount = -b.amount "
+                  "WHERE b.transfer_dest_account_id = a.account_id"_s),
+             u"4"_s);
+}
+
+void SampleDataServiceTest::clearingLeavesTheRest()
+{
+    TestDatabase database;
+    database.addSampleOwners();
+    SampleDataService service(database.get());
+    service.loadSampleData();
+    Transaction own = sampleTransaction();
+    database.transactions.insert(own);
+    own.id = u"added"_s;
+    own.account_id = u"sample-acct-visa"_s;
+    database.transactions.insert(own);
+
+    service.clearSampleData();
+    QCOMPARE(database.value(u"SELECT COUNT(*) FROM transactions"_s).toInt(), 2);
+    QVERIFY(service.hasSampleData()); // for the sake of the row that was added
+    database.run(u"DELETE FROM transactions WHERE id = 'added'"_s);
+    service.clearSampleData();
+    QCOMPARE(database.accounts.listActive().size(), 2);
+    QCOMPARE(database.recurring.listActive().size(), 0);
+}
+
+PURSEWELL_TEST_MAIN(SampleDataServiceTest)
+#include "SampleDataServiceTest.moc"
