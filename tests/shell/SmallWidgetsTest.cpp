@@ -48,7 +48,8 @@ void SmallWidgetsTest::labelDrawsWholeOrElided()
         QCOMPARE(label.grab().toImage().convertToFormat(expected.format()), expected);
     }
     label.resize(0, metrics.height());
-    label.grab();
+    QPaintEvent paint(label.rect()); // grab() would not paint what is empty
+    QCoreApplication::sendEvent(&label, &paint);
     QCOMPARE(LogCatcher::warnings(), QStringList());
 }
 
@@ -115,8 +116,7 @@ void SmallWidgetsTest::welcomeGreetsByForm()
         QCOMPARE(screen.findChild<QWidget *>(u"HowItWorksCard"_s)->isVisible(), !returning);
         auto *create = screen.findChild<QPushButton *>(u"createAccountButton"_s);
         auto *signIn = screen.findChild<QPushButton *>(u"signInButton"_s);
-        QCOMPARE(signIn->isFlat(), !returning);
-        QCOMPARE(create->isFlat(), returning);
+        QVERIFY(signIn->isFlat() == !returning && create->isFlat() == returning);
         QSignalSpy createAsked(&screen, &WelcomeScreen::createAccountRequested);
         QSignalSpy signInAsked(&screen, &WelcomeScreen::signInRequested);
         QTest::mouseClick(create, Qt::LeftButton);
