@@ -3,6 +3,7 @@
 #include "core/Dates.h"
 #include "core/state/AppState.h"
 #include "data/CategoryRepository.h"
+#include "register/CategoryChoices.h"
 #include "register/DateInput.h"
 #include "register/PayeeFill.h"
 #include "register/PayeeMemoEditor.h"
@@ -18,23 +19,6 @@
 #include <QStringListModel>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int findExactly(const QComboBox &combo, const QString &text)
-{
-    return combo.findData(text, Qt::DisplayRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
-}
-
-QHash<QString, QString> namesById(const QList<Category> &categories)
-{
-    QHash<QString, QString> names;
-    for (const Category &category : categories)
-        names.insert(category.id, category.name);
-    return names;
-}
-
-} // namespace
 
 RegisterDelegate::RegisterDelegate(AppState *appState, RegisterModel *model, QObject *parent)
     : QStyledItemDelegate(parent)
@@ -122,19 +106,12 @@ QWidget *RegisterDelegate::createCategoryEditor(QWidget *parent) const
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->addItem(QString(), QString()); // no category
-    const QList<Category> categories = m_appState->categories()->listActive();
-    const QHash<QString, QString> names = namesById(categories);
-    for (const Category &category : categories) {
-        const bool isChild = names.contains(category.parent_id);
-        combo->addItem(isChild ? u"%1 > %2"_s.arg(names.value(category.parent_id), category.name)
-                               : category.name,
-                       category.id);
-    }
+    CategoryChoices::addPaths(*combo, m_appState->categories()->listActive());
     auto *completer = new TabCompleter(combo->model(), combo);
     combo->setCompleter(completer);
     connect(completer, qOverload<const QString &>(&QCompleter::activated), combo,
             [combo](const QString &text) {
-                if (const int found = findExactly(*combo, text); found >= 0)
+                if (const int found = CategoryChoices::find(*combo, text); found >= 0)
                     combo->setCurrentIndex(found);
             });
     connect(combo, &QComboBox::currentIndexChanged, combo,
@@ -176,7 +153,7 @@ void RegisterDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
         both->memoEdit()->setText(
             index.siblingAtColumn(RegisterColumn::Memo).data(Qt::EditRole).toString());
     } else if (auto *combo = qobject_cast<QComboBox *>(editor)) {
-        if (const int found = findExactly(*combo, text); found >= 0)
+        if (const int found = CategoryChoices::find(*combo, text); found >= 0)
             combo->setCurrentIndex(found);
         else
             combo->setCurrentText(text);
@@ -222,7 +199,7 @@ void RegisterDelegate::takeCategory(const QComboBox &combo, const QModelIndex &i
         id = buffers.category_id;
     else if (combo.itemText(combo.currentIndex()) == text)
         id = combo.currentData().toString();
-    else if (const int found = findExactly(combo, text); found >= 0)
+    else if (const int found = CategoryChoices::find(combo, text); found >= 0)
         id = combo.itemData(found).toString();
     m_model->setData(index, text, Qt::EditRole);
     buffers.category_id = id;

@@ -38,7 +38,6 @@ RegisterHeader::RegisterHeader(QWidget *parent)
     applyFontRole(m_balanceLabel, FontRole::Heading);
     m_reconcileButton->setObjectName(u"reconcileButton"_s);
     m_reconcileButton->setFocusPolicy(Qt::ClickFocus);
-    m_reconcileButton->hide(); // there is no window yet in which to reconcile
     connect(m_reconcileButton, &QPushButton::clicked, this, &RegisterHeader::reconcileClicked);
     m_subtitleLabel->setObjectName(u"subtitleLabel"_s);
     m_subtitleLabel->setTextFormat(Qt::PlainText); // a bank's name is a person's words

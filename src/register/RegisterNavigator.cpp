@@ -29,6 +29,44 @@ void RegisterNavigator::commitActiveEditor()
     }
 }
 
+bool RegisterNavigator::openNextField()
+{
+    const int next = columnAfter(m_view->currentIndex().column());
+    commitActiveEditor();
+    if (next >= 0)
+        openField(next);
+    return next >= 0;
+}
+
+bool RegisterNavigator::openPreviousField()
+{
+    const int previous = columnBefore(m_view->currentIndex().column());
+    commitActiveEditor();
+    if (previous < 0)
+        return false;
+    openField(previous);
+    enterMemoLine();
+    return true;
+}
+
+void RegisterNavigator::hopToNextField()
+{
+    const int next = columnAfter(m_view->currentIndex().column());
+    commitActiveEditor();
+    if (next >= 0)
+        hopToField(next);
+}
+
+void RegisterNavigator::hopToPreviousField()
+{
+    const int previous = columnBefore(m_view->currentIndex().column());
+    commitActiveEditor();
+    if (previous < 0)
+        return;
+    hopToField(previous);
+    enterMemoLine();
+}
+
 int RegisterNavigator::columnAfter(int column) const
 {
     const int first =

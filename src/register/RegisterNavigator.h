@@ -14,19 +14,25 @@ public:
     // closed as well, since the view does not see the focus inside it.
     void commitActiveEditor();
 
+    // From a valid current cell to the next or previous visible one of its row, taking along what
+    // was typed, and open its editor. False when there is none.
+    bool openNextField();
+    bool openPreviousField();
+    // The same for Tab, without telling the selection's listeners.
+    void hopToNextField();
+    void hopToPreviousField();
+
+private:
     // The next visible column that can be typed into, or -1. Balance counts as before the first
     // for the way forward, and as after the last for the way back.
     int columnAfter(int column) const;
     int columnBefore(int column) const;
 
-    // Makes a cell of the current row current and opens its editor.
     void openField(int column);
-    // The same for Tab: within the row, without telling the selection's listeners.
     void hopToField(int column);
     // Arriving at the payee from the right means arriving at the memo under it.
     void enterMemoLine();
 
-private:
     RegisterTableView *m_view;
     RegisterModel *m_model;
 };

@@ -1,6 +1,5 @@
 #include "register/RegisterScreen.h"
 
-#include "core/Dates.h"
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "data/PreferencesRepository.h"
@@ -9,24 +8,21 @@
 #include "register/RegisterColumn.h"
 #include "register/RegisterColumnLayout.h"
 #include "register/RegisterDelegate.h"
+#include "register/RegisterFooter.h"
 #include "register/RegisterHeader.h"
 #include "register/RegisterLineEdit.h"
 #include "register/RegisterModel.h"
 #include "register/RegisterPosition.h"
+#include "register/RegisterRowActions.h"
 #include "register/RegisterRowWriter.h"
 #include "register/RegisterTableView.h"
-#include "register/TransactionDeletion.h"
-#include "register/TransactionDetailsDialog.h"
-#include "shell/theme/FontRoles.h"
-#include "shell/theme/MoneyColors.h"
+#include "register/TransactionMemorizing.h"
 
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -34,16 +30,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kMargin = 24; // pixels
-
-QLabel *makeFooterLabel(QWidget *parent, const QString &objectName, const QString &color)
-{
-    auto *label = new QLabel(parent);
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(u"color: %1; padding: 2px 4px;"_s.arg(color));
-    applyFontRole(label, FontRole::Body);
-    return label;
-}
 
 QString nativeKeys(const QString &keys)
 {
@@ -59,8 +45,9 @@ RegisterScreen::RegisterScreen(AppState *appState, QWidget *parent)
     , m_view(new RegisterTableView(this, this))
     , m_delegate(new RegisterDelegate(appState, m_model, this))
     , m_navigator(m_view, m_model)
+    , m_rowActions(new RegisterRowActions(appState, m_model, this))
     , m_header(new RegisterHeader(this))
-    , m_messageLabel(makeFooterLabel(this, u"messageLabel"_s, mutedColor().name()))
+    , m_footer(new RegisterFooter(keyHints(), this))
 {
     setUpView();
     auto *layout = new QVBoxLayout(this);
@@ -68,7 +55,7 @@ RegisterScreen::RegisterScreen(AppState *appState, QWidget *parent)
     layout->addWidget(m_header);
     layout->addSpacing(8);
     layout->addWidget(m_view, 1);
-    layout->addWidget(buildFooter());
+    layout->addWidget(m_footer);
     connectView();
     connect(m_header, &RegisterHeader::reconcileClicked, this,
             [this] { Q_EMIT reconcileRequested(m_accountId); });
@@ -76,19 +63,10 @@ RegisterScreen::RegisterScreen(AppState *appState, QWidget *parent)
     setFocusProxy(m_view);
 }
 
-QWidget *RegisterScreen::buildFooter()
+QString RegisterScreen::keyHints()
 {
-    auto *footer = new QWidget(this);
-    auto *row = new QHBoxLayout(footer);
-    row->setContentsMargins(0, 0, 0, 0);
-    QLabel *hint = makeFooterLabel(footer, u"hintLabel"_s, u"#5A7A6E"_s);
-    hint->setText(
-        tr("%1: save  |  Enter: next  |  %2: delete  |  %3: memorize  |  ': copy above")
-            .arg(nativeKeys(u"Ctrl+Return"_s), nativeKeys(u"Ctrl+D"_s), nativeKeys(u"Ctrl+M"_s)));
-    row->addWidget(m_messageLabel);
-    row->addStretch();
-    row->addWidget(hint);
-    return footer;
+    return tr("%1: save  |  Enter: next  |  %2: delete  |  %3: memorize  |  ': copy above")
+        .arg(nativeKeys(u"Ctrl+Return"_s), nativeKeys(u"Ctrl+D"_s), nativeKeys(u"Ctrl+M"_s));
 }
 
 void RegisterScreen::setUpView()
@@ -96,27 +74,8 @@ void RegisterScreen::setUpView()
     m_view->setObjectName(u"registerTable"_s);
     m_view->setModel(m_model);
     m_view->setItemDelegate(m_delegate);
-    m_view->setAlternatingRowColors(true);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectItems);
-    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_view->setTabKeyNavigation(false);
-    m_view->setFocusPolicy(Qt::StrongFocus);
-    m_view->setShowGrid(false);
-    m_view->setWordWrap(false);
-    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
-    m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setMinimumSectionSize(RegisterDelegate::kRowHeight);
-    m_view->verticalHeader()->setDefaultSectionSize(RegisterDelegate::kRowHeight);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
-
-    QHeaderView *header = m_view->horizontalHeader();
-    header->setSectionResizeMode(QHeaderView::Interactive);
-    header->setStretchLastSection(false);
-    header->setMinimumSectionSize(24);
-    header->setSortIndicatorShown(true);
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->setSortingEnabled(true);
 }
 
@@ -126,6 +85,8 @@ void RegisterScreen::connectView()
             &RegisterScreen::showHeaderContextMenu);
     connect(m_view, &QWidget::customContextMenuRequested, this, &RegisterScreen::onContextMenu);
     connect(m_view, &QAbstractItemView::clicked, this, &RegisterScreen::onClicked);
+    connect(m_view, &QAbstractItemView::doubleClicked, this, &RegisterScreen::onDoubleClicked);
+    connect(m_rowActions, &RegisterRowActions::stored, this, &RegisterScreen::refreshAfterWrite);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &current, const QModelIndex &previous) {
                 if (current.isValid() && !(previous.isValid() && previous.row() == current.row()))
@@ -198,8 +159,7 @@ void RegisterScreen::goToInsertionRow()
 
 void RegisterScreen::showMessage(const QString &text, int milliseconds)
 {
-    m_messageLabel->setText(text);
-    QTimer::singleShot(milliseconds, m_messageLabel, &QLabel::clear);
+    m_footer->showMessage(text, milliseconds);
 }
 
 void RegisterScreen::startEditingRow(int row)
@@ -227,6 +187,12 @@ void RegisterScreen::onClicked(const QModelIndex &index)
     startEditingRow(index.row());
     if (index.column() != RegisterColumn::Balance && !splitLinesOwn(index))
         m_view->edit(index);
+}
+
+void RegisterScreen::onDoubleClicked(const QModelIndex &index)
+{
+    if (m_model->isSplitRow(index.row()))
+        m_rowActions->editInDialog(index.row());
 }
 
 void RegisterScreen::commitCurrentRow()
@@ -277,51 +243,26 @@ void RegisterScreen::copyFromAbove()
 
 void RegisterScreen::advanceToNextField()
 {
-    const QModelIndex index = m_view->currentIndex();
-    if (!index.isValid())
-        return;
-    m_navigator.commitActiveEditor();
-    const int next = m_navigator.columnAfter(index.column());
-    if (next < 0)
+    if (m_view->currentIndex().isValid() && !m_navigator.openNextField())
         commitCurrentRow();
-    else
-        m_navigator.openField(next);
 }
 
 void RegisterScreen::advanceToPreviousField()
 {
-    const QModelIndex index = m_view->currentIndex();
-    if (!index.isValid())
-        return;
-    m_navigator.commitActiveEditor();
-    const int previous = m_navigator.columnBefore(index.column());
-    if (previous < 0)
-        return;
-    m_navigator.openField(previous);
-    m_navigator.enterMemoLine();
+    if (m_view->currentIndex().isValid())
+        m_navigator.openPreviousField();
 }
 
 void RegisterScreen::moveToNextField()
 {
-    const QModelIndex index = m_view->currentIndex();
-    if (!index.isValid())
-        return;
-    m_navigator.commitActiveEditor();
-    if (const int next = m_navigator.columnAfter(index.column()); next >= 0)
-        m_navigator.hopToField(next);
+    if (m_view->currentIndex().isValid())
+        m_navigator.hopToNextField();
 }
 
 void RegisterScreen::moveToPreviousField()
 {
-    const QModelIndex index = m_view->currentIndex();
-    if (!index.isValid())
-        return;
-    m_navigator.commitActiveEditor();
-    const int previous = m_navigator.columnBefore(index.column());
-    if (previous < 0)
-        return;
-    m_navigator.hopToField(previous);
-    m_navigator.enterMemoLine();
+    if (m_view->currentIndex().isValid())
+        m_navigator.hopToPreviousField();
 }
 
 bool RegisterScreen::focusNextPrevChild(bool next)
@@ -370,7 +311,7 @@ bool RegisterScreen::handleKey(const QKeyEvent &key)
         else if (!(key.modifiers() & Qt::AltModifier))
             onEnter();
         else if (current.isValid())
-            showDetails(current.row());
+            m_rowActions->showDetails(current.row());
         return true;
     case Qt::Key_D:
         if (ctrl)
@@ -382,6 +323,14 @@ bool RegisterScreen::handleKey(const QKeyEvent &key)
             insertNew();
         return insert;
     }
+    case Qt::Key_N:
+        if (ctrl)
+            newTransactionDialog();
+        return ctrl;
+    case Qt::Key_M:
+        if (ctrl)
+            memorizeCurrentRow();
+        return ctrl;
     case Qt::Key_Apostrophe: {
         const bool copy = !ctrl && current.isValid() && current.row() > 0;
         if (copy)
@@ -398,6 +347,10 @@ void RegisterScreen::onEnter()
     const QModelIndex current = m_view->currentIndex();
     if (!current.isValid() || m_view->activeEditor()) {
         advanceToNextField();
+        return;
+    }
+    if (splitLinesOwn(current)) {
+        m_rowActions->editInDialog(current.row());
         return;
     }
     startEditingRow(current.row());
@@ -424,7 +377,7 @@ void RegisterScreen::deleteCurrentRow()
     if (!current.isValid())
         return;
     if (current.row() != m_model->insertionRow()) {
-        deleteRow(current.row());
+        m_rowActions->deleteRow(current.row());
         return;
     }
     m_view->dropActiveEditor();
@@ -437,43 +390,21 @@ void RegisterScreen::deleteCurrentRow()
     showMessage(tr("Fields cleared"));
 }
 
-// The bound takes the insertion row for the last one. With newest first it stands on top, so the
-// oldest transaction is spared there and reached only after a change of sort; the row actions share
-// the bound, so that they agree on what they reach.
-bool RegisterScreen::withinActionBound(int row) const
+void RegisterScreen::memorizeCurrentRow()
 {
-    return row >= 0 && row < m_model->rowCount() - 1 && m_model->rowAt(row);
-}
-
-void RegisterScreen::deleteRow(int row)
-{
-    if (!withinActionBound(row))
-        return;
-    const Transaction transaction = *m_model->rowAt(row);
-    if (confirmAndDeleteTransaction(*m_appState, transaction, this))
-        refreshAfterWrite();
-}
-
-void RegisterScreen::showDetails(int row)
-{
-    if (!withinActionBound(row))
-        return;
-    TransactionDetailsDialog dialog(m_appState, *m_model->rowAt(row), this);
-    dialog.exec();
-    refreshAfterWrite();
-}
-
-void RegisterScreen::toggleCleared(int row)
-{
-    const RegisterRow *stored = m_model->rowAt(row);
+    const RegisterRow *stored = m_model->rowAt(m_view->currentIndex().row());
     if (!stored)
         return;
-    Transaction changed = *stored;
-    changed.cleared = !changed.cleared;
-    changed.updated_at = currentStamp();
-    changed.sync_status = SyncStatus::Pending;
-    m_appState->transactions()->update(changed);
-    refreshAfterWrite();
+    if (!canBeMemorized(stored->date))
+        showMessage(tr("Cannot memorize: source transaction has an invalid date"), 5000);
+    else if (memorizeTransaction(*m_appState, m_accountId, *stored, this))
+        showMessage(tr("Transaction memorized as recurring"));
+}
+
+void RegisterScreen::newTransactionDialog()
+{
+    if (m_rowActions->addInDialog(m_accountId))
+        goToInsertionRow();
 }
 
 void RegisterScreen::onContextMenu(QPoint pos)
@@ -488,14 +419,18 @@ void RegisterScreen::onContextMenu(QPoint pos)
         connect(action, &QAction::triggered, this, act);
     };
     add(tr("&Insert New"), QKeySequence(u"Ctrl+I"_s), [this] { insertNew(); });
+    add(tr("&New Transaction..."), QKeySequence::New, [this] { newTransactionDialog(); });
     const int row = m_view->indexAt(pos).row();
     if (const RegisterRow *stored = m_model->rowAt(row)) {
         menu.addSeparator();
         add(tr("Show &Details..."), QKeySequence(u"Alt+Return"_s),
-            [this, row] { showDetails(row); });
+            [this, row] { m_rowActions->showDetails(row); });
+        add(stored->is_split ? tr("Edit &Splits...") : tr("&Edit in Dialog..."), {},
+            [this, row] { m_rowActions->editInDialog(row); });
         add(stored->cleared ? tr("Mark &Uncleared") : tr("Mark &Cleared"), {},
-            [this, row] { toggleCleared(row); });
-        add(tr("&Delete"), QKeySequence(u"Ctrl+D"_s), [this, row] { deleteRow(row); });
+            [this, row] { m_rowActions->toggleCleared(row); });
+        add(tr("&Delete"), QKeySequence(u"Ctrl+D"_s),
+            [this, row] { m_rowActions->deleteRow(row); });
     }
     menu.exec(m_view->viewport()->mapToGlobal(pos));
 }

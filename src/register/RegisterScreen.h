@@ -5,12 +5,13 @@
 #include <QWidget>
 
 class AppState;
-class QLabel;
 class QModelIndex;
 class RegisterColumnLayout;
 class RegisterDelegate;
+class RegisterFooter;
 class RegisterHeader;
 class RegisterModel;
+class RegisterRowActions;
 class RegisterTableView;
 
 // The register of one account: a grid in which a transaction is typed from left to right and saved
@@ -48,6 +49,7 @@ public Q_SLOTS:
     void advanceToNextField();
     void advanceToPreviousField();
     void startEditingRow(int row);
+    void newTransactionDialog();
     void showHeaderContextMenu(QPoint pos);
     void resetColumnLayout();
 
@@ -55,19 +57,17 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QWidget *buildFooter();
+    static QString keyHints();
     void setUpView();
     void connectView();
 
     bool handleKey(const QKeyEvent &key);
     void onEnter();
     void onClicked(const QModelIndex &index);
+    void onDoubleClicked(const QModelIndex &index);
     void insertNew();
-    void showDetails(int row);
-    void deleteRow(int row);
-    void toggleCleared(int row);
+    void memorizeCurrentRow();
 
-    bool withinActionBound(int row) const;
     bool splitLinesOwn(const QModelIndex &index) const;
     void refreshAfterWrite();
     void applyTwoLineMode();
@@ -79,6 +79,7 @@ private:
     RegisterDelegate *m_delegate;
     RegisterColumnLayout *m_columnLayout = nullptr;
     RegisterNavigator m_navigator;
+    RegisterRowActions *m_rowActions;
     RegisterHeader *m_header;
-    QLabel *m_messageLabel;
+    RegisterFooter *m_footer;
 };

@@ -2,9 +2,11 @@
 
 #include "register/PayeeMemoEditor.h"
 #include "register/RegisterColumn.h"
+#include "register/RegisterDelegate.h"
 #include "register/RegisterScreen.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QTimer>
 
@@ -26,6 +28,25 @@ RegisterTableView::RegisterTableView(RegisterScreen *screen, QWidget *parent)
     : QTableView(parent)
     , m_screen(screen)
 {
+    setAlternatingRowColors(true);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setTabKeyNavigation(false);
+    setFocusPolicy(Qt::StrongFocus);
+    setShowGrid(false);
+    setWordWrap(false);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(RegisterDelegate::kRowHeight);
+    verticalHeader()->setDefaultSectionSize(RegisterDelegate::kRowHeight);
+
+    QHeaderView *header = horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::Interactive);
+    header->setStretchLastSection(false);
+    header->setMinimumSectionSize(24);
+    header->setSortIndicatorShown(true);
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
 }
 
 QWidget *RegisterTableView::activeEditor() const

@@ -158,6 +158,9 @@ void TransactionDetailsDialog::buildStamps(QVBoxLayout *layout)
 void TransactionDetailsDialog::buildButtons(QVBoxLayout *layout)
 {
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    QPushButton *editButton = buttons->addButton(tr("Edit..."), QDialogButtonBox::ActionRole);
+    editButton->setObjectName(u"editButton"_s);
+    connect(editButton, &QPushButton::clicked, this, &TransactionDetailsDialog::requestEdit);
     if (!m_transaction.reconciled) {
         m_markButton = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
         m_markButton->setObjectName(u"markButton"_s);
@@ -180,6 +183,12 @@ void TransactionDetailsDialog::showStatus()
     m_statusLabel->setText(m_transaction.reconciled ? tr("Reconciled") : uncleared);
     if (m_markButton)
         m_markButton->setText(m_transaction.cleared ? tr("Mark Uncleared") : tr("Mark Cleared"));
+}
+
+void TransactionDetailsDialog::requestEdit()
+{
+    m_editRequested = true;
+    accept();
 }
 
 void TransactionDetailsDialog::toggleCleared()

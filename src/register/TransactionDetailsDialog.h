@@ -11,7 +11,7 @@ class QPushButton;
 class QVBoxLayout;
 
 // Shows one transaction with its split lines and time stamps, and marks or deletes it. Both are
-// written at once; the caller refreshes after it.
+// written at once; the caller refreshes after it, and opens the form if an edit was asked for.
 class TransactionDetailsDialog : public QDialog
 {
     Q_OBJECT
@@ -20,6 +20,7 @@ public:
     TransactionDetailsDialog(AppState *appState, const Transaction &transaction,
                              QWidget *parent = nullptr); // the state is not owned
 
+    bool isEditRequested() const { return m_editRequested; }
     bool isDeleted() const { return m_deleted; }
 
 protected:
@@ -35,11 +36,13 @@ private:
     QString categoryText() const;
     QString categoryName(const QString &categoryId) const; // empty if none or unknown
     void showStatus();
+    void requestEdit();
     void toggleCleared();
     void deleteTransaction();
 
     AppState *m_appState;
     Transaction m_transaction;
+    bool m_editRequested = false;
     bool m_deleted = false;
     QLabel *m_statusLabel = nullptr;
     QPushButton *m_markButton = nullptr; // null for a reconciled transaction

@@ -3,8 +3,10 @@
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "data/PreferencesRepository.h"
+#include "data/RecurringRepository.h"
 #include "data/TransactionRepository.h"
 #include "register/RegisterScreen.h"
+#include "services/RecurringService.h"
 #include "shell/AccountList.h"
 #include "shell/EmptyPage.h"
 #include "shell/ListResizeWatcher.h"
@@ -57,6 +59,8 @@ MainWindow::MainWindow(AppState *appState, QWidget *parent)
     connectChanges();
     applyTheme();
     populateAccountList();
+    postDueRecurring();
+    watchDueCount();
     restoreInitialView();
 }
 
@@ -78,6 +82,8 @@ void MainWindow::buildPages()
     m_emptyPage = new EmptyPage(this);
     m_emptyPage->setObjectName(u"emptyPage"_s);
 
+    connect(m_registerScreen, &RegisterScreen::reconcileRequested, this,
+            &MainWindow::showReconciliationWindow);
     connect(m_registerScreen, &RegisterScreen::errorMessage, this,
             [this](const QString &text) { m_statusBar->showTimedMessage(text, 5000); });
     connect(m_welcomeScreen, &WelcomeScreen::createAccountRequested, this,
@@ -160,6 +166,33 @@ void MainWindow::connectChanges()
     // The height of a row and the room for its figure were measured in the old font.
     connect(m_appState->themeManager(), &ThemeManager::fontScaleChanged, this,
             &MainWindow::schedulePopulate);
+}
+
+// Once a start: what falls due while the program is open waits for the next one, or for a person to
+// confirm it.
+void MainWindow::postDueRecurring()
+{
+    const int posted = m_appState->recurringService()->processAutoPost();
+    if (posted == 0)
+        return;
+    m_statusBar->showTimedMessage(tr("Auto-posted %n recurring transaction(s)", nullptr, posted),
+                                  5000);
+    populateAccountList();
+}
+
+void MainWindow::watchDueCount()
+{
+    m_dueCountTimer.setSingleShot(true);
+    connect(&m_dueCountTimer, &QTimer::timeout, this, &MainWindow::showDueCount);
+    const auto schedule = [this] { m_dueCountTimer.start(0); };
+    connect(m_appState->recurringService(), &RecurringService::pendingCountChanged, this, schedule);
+    connect(m_appState->recurring(), &RecurringRepository::recurringChanged, this, schedule);
+    showDueCount();
+}
+
+void MainWindow::showDueCount()
+{
+    m_statusBar->setRecurringDueCount(m_appState->recurringService()->pendingCount());
 }
 
 void MainWindow::applyTheme()

@@ -34,6 +34,11 @@ public Q_SLOTS:
     void selectAccount(const QString &accountId);
     void showNewAccountDialog();
     void showEditAccountDialog();
+    void showRecurringWindow();
+    void showCategoriesWindow();
+    void showReconciliationWindow();
+    void showReconciliationHistoryWindow();
+    void showPayeesWindow();
     void onAccountContextMenu(QPoint pos); // in the list's viewport
     void deleteAccount(const QString &accountId);
     void deleteCurrentAccount();
@@ -47,11 +52,16 @@ private:
     void buildSplitter();
     void connectChanges();
     void restoreWindowGeometry();
+    void postDueRecurring();
+    void watchDueCount();
+    void showDueCount();
 
     void buildMenus();
     void buildFileMenu();
     void buildAccountMenu();
+    void buildViewMenu();
     void buildHelpMenu();
+    void addSampleDataEntries(QMenu *menu);
     QAction *addMenuAction(QMenu *menu, const QString &name, const QString &text);
     void showAboutBox();
     void showShortcutsBox();
@@ -65,12 +75,16 @@ private:
     void applyTheme();
     void addAccountEntries(QMenu *menu, const QString &accountId);
 
+    void presentWindow(QWidget *window, const QString &title, QSize size);
     void restoreInitialView();
     void showNothingOpen();
     void showSelectAccountFirst();
     bool confirmDelete(const Account &account);
     bool deleteWithDependents(const QString &accountId);
     void insertOpeningBalance(const QString &accountId, QDate date, qint64 amount);
+    void loadSampleData();
+    void clearSampleData();
+    void showSampleDataNotice(const QString &text);
 
     AppState *m_appState;
     AccountList *m_accountList = nullptr;
@@ -83,4 +97,5 @@ private:
     QStackedWidget *m_stack = nullptr;
     StatusBar *m_statusBar = nullptr;
     QTimer m_populateTimer{}; // gathers the notifications of a bulk write
+    QTimer m_dueCountTimer{}; // likewise
 };

@@ -13,6 +13,7 @@
 #include "data/TransactionRepository.h"
 #include "register/AccountFormDialog.h"
 #include "register/RegisterScreen.h"
+#include "services/SampleDataService.h"
 #include "shell/AccountList.h"
 #include "shell/PlainWords.h"
 #include "shell/StatusBar.h"
@@ -141,6 +142,18 @@ void MainWindow::addAccountEntries(QMenu *menu, const QString &accountId)
         selectAccount(accountId);
         showEditAccountDialog();
     });
+    menu->addAction(tr("Reconcile..."), this, [this, accountId] {
+        selectAccount(accountId);
+        showReconciliationWindow();
+    });
+    menu->addAction(tr("Reconciliation History..."), this, [this, accountId] {
+        selectAccount(accountId);
+        showReconciliationHistoryWindow();
+    });
+    menu->addAction(tr("Rename Payees..."), this, [this, accountId] {
+        selectAccount(accountId);
+        showPayeesWindow();
+    });
     menu->addSeparator();
     menu->addAction(tr("Delete \"%1\"").arg(name), this,
                     [this, accountId] { deleteAccount(accountId); });
@@ -246,4 +259,41 @@ void MainWindow::deleteCurrentAccount()
         showSelectAccountFirst();
     else
         deleteAccount(accountId);
+}
+
+// The sample rows come and go without a word from the repositories.
+void MainWindow::loadSampleData()
+{
+    SampleDataService service(m_appState->database());
+    if (service.hasSampleData()) {
+        showSampleDataNotice(tr("Sample data is already loaded."));
+        return;
+    }
+    service.loadSampleData();
+    populateAccountList();
+    showDueCount();
+    m_statusBar->showTimedMessage(tr("Sample data loaded"), kNoticeMs);
+}
+
+void MainWindow::clearSampleData()
+{
+    SampleDataService service(m_appState->database());
+    if (!service.hasSampleData()) {
+        showSampleDataNotice(tr("No sample data to clear."));
+        return;
+    }
+    service.clearSampleData();
+    if (!m_appState->accounts()->findById(m_appState->currentAccountId()))
+        m_appState->setCurrentAccountId({});
+    populateAccountList();
+    showDueCount();
+    showNothingOpen();
+    m_statusBar->showTimedMessage(tr("Sample data cleared"), kNoticeMs);
+}
+
+void MainWindow::showSampleDataNotice(const QString &text)
+{
+    QMessageBox notice(QMessageBox::Information, tr("Sample Data"), text, QMessageBox::Ok, this);
+    notice.setObjectName(u"sampleDataNotice"_s);
+    notice.exec();
 }

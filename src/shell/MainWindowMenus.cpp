@@ -4,6 +4,7 @@
 
 #include "core/Deployment.h"
 #include "core/Feedback.h"
+#include "register/RegisterScreen.h"
 #include "shell/FeedbackPage.h"
 
 #include <QAction>
@@ -33,6 +34,7 @@ void MainWindow::buildMenus()
 {
     buildFileMenu();
     buildAccountMenu();
+    buildViewMenu();
     buildHelpMenu();
 }
 
@@ -47,6 +49,11 @@ void MainWindow::buildFileMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&File"));
     menu->setObjectName(u"fileMenu"_s);
+    QAction *newTransaction =
+        addMenuAction(menu, u"newTransactionAction"_s, tr("&New Transaction"));
+    newTransaction->setShortcut(QKeySequence(u"Ctrl+N"_s));
+    connect(newTransaction, &QAction::triggered, this,
+            [this] { m_registerScreen->newTransactionDialog(); });
     QAction *newAccount = addMenuAction(menu, u"newAccountAction"_s, tr("New &Account"));
     newAccount->setShortcut(QKeySequence(u"Ctrl+Shift+N"_s));
     connect(newAccount, &QAction::triggered, this, &MainWindow::showNewAccountDialog);
@@ -62,9 +69,28 @@ void MainWindow::buildAccountMenu()
     menu->setObjectName(u"accountMenu"_s);
     connect(addMenuAction(menu, u"editAccountAction"_s, tr("&Edit...")), &QAction::triggered, this,
             &MainWindow::showEditAccountDialog);
+    QAction *reconcile = addMenuAction(menu, u"reconcileAction"_s, tr("&Reconcile..."));
+    reconcile->setShortcut(QKeySequence(u"Ctrl+R"_s));
+    connect(reconcile, &QAction::triggered, this, &MainWindow::showReconciliationWindow);
+    connect(addMenuAction(menu, u"reconciliationHistoryAction"_s, tr("Reconciliation &History...")),
+            &QAction::triggered, this, &MainWindow::showReconciliationHistoryWindow);
+    connect(addMenuAction(menu, u"payeesAction"_s, tr("Rename &Payees...")), &QAction::triggered,
+            this, &MainWindow::showPayeesWindow);
     menu->addSeparator();
     connect(addMenuAction(menu, u"deleteAccountAction"_s, tr("&Delete")), &QAction::triggered, this,
             &MainWindow::deleteCurrentAccount);
+}
+
+void MainWindow::buildViewMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&View"));
+    menu->setObjectName(u"viewMenu"_s);
+    QAction *recurring = addMenuAction(menu, u"recurringAction"_s, tr("Re&curring Transactions"));
+    recurring->setShortcut(QKeySequence(u"Ctrl+3"_s));
+    connect(recurring, &QAction::triggered, this, &MainWindow::showRecurringWindow);
+    QAction *categories = addMenuAction(menu, u"categoriesAction"_s, tr("C&ategories"));
+    categories->setShortcut(QKeySequence(u"Ctrl+4"_s));
+    connect(categories, &QAction::triggered, this, &MainWindow::showCategoriesWindow);
 }
 
 void MainWindow::buildHelpMenu()
@@ -78,6 +104,17 @@ void MainWindow::buildHelpMenu()
     menu->addSeparator();
     connect(addMenuAction(menu, u"shortcutsAction"_s, tr("&Keyboard Shortcuts")),
             &QAction::triggered, this, &MainWindow::showShortcutsBox);
+    if (!qEnvironmentVariableIsEmpty("PURSEWELL_DEV"))
+        addSampleDataEntries(menu);
+}
+
+void MainWindow::addSampleDataEntries(QMenu *menu)
+{
+    menu->addSeparator();
+    connect(addMenuAction(menu, u"loadSampleDataAction"_s, tr("Load &Sample Data")),
+            &QAction::triggered, this, &MainWindow::loadSampleData);
+    connect(addMenuAction(menu, u"clearSampleDataAction"_s, tr("&Clear Sample Data")),
+            &QAction::triggered, this, &MainWindow::clearSampleData);
 }
 
 void MainWindow::showAboutBox()

@@ -1,0 +1,122 @@
+// The secondary windows of the main window: made on first use, then reused.
+
+#include "shell/MainWindow.h"
+
+#include "core/state/AppState.h"
+#include "data/AccountRepository.h"
+#include "data/RecurringRepository.h"
+#include "register/RegisterScreen.h"
+#include "screens/CategoriesScreen.h"
+#include "screens/PayeeScreen.h"
+#include "screens/ReconciliationHistoryScreen.h"
+#include "screens/ReconciliationScreen.h"
+#include "screens/RecurringScreen.h"
+
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A window goes with the main window that presented it; a later main window makes its own.
+template <typename Screen> QPointer<Screen> &screenOf()
+{
+    static QPointer<Screen> screen;
+    return screen;
+}
+
+} // namespace
+
+// The first showing makes it a window of this one, so that it stays in front of it and closes with
+// it. A window that was resized by hand keeps its size until the program ends.
+void MainWindow::presentWindow(QWidget *window, const QString &title, QSize size)
+{
+    window->setWindowTitle(title);
+    if (!window->parentWidget()) {
+        window->setParent(this, Qt::Window);
+        window->resize(size);
+    }
+    if (window->isMinimized())
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    if (window->isHidden())
+        window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+// Each run has a window of its own: what was ticked and not finished goes with it.
+void MainWindow::showReconciliationWindow()
+{
+    const std::optional<Account> account =
+        m_appState->accounts()->findById(m_appState->currentAccountId());
+    if (!account) {
+        showSelectAccountFirst();
+        return;
+    }
+    auto *screen = new ReconciliationScreen(m_appState);
+    screen->setObjectName(u"reconciliationScreen"_s);
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+    connect(screen, &ReconciliationScreen::reconciliationCompleted, this, [this, screen] {
+        m_registerScreen->refresh();
+        populateAccountList();
+        screen->close();
+    });
+    connect(screen, &ReconciliationScreen::cancelled, screen, &QWidget::close);
+    screen->startForAccount(account->id);
+    presentWindow(screen, tr("Reconcile — %1").arg(account->name), {1100, 720});
+}
+
+void MainWindow::showReconciliationHistoryWindow()
+{
+    const QString accountId = m_appState->currentAccountId();
+    if (accountId.isEmpty()) {
+        showSelectAccountFirst();
+        return;
+    }
+    QPointer<ReconciliationHistoryScreen> &screen = screenOf<ReconciliationHistoryScreen>();
+    if (!screen) {
+        screen = new ReconciliationHistoryScreen(m_appState);
+        screen->setObjectName(u"reconciliationHistoryScreen"_s);
+    }
+    screen->setAccount(accountId);
+    presentWindow(screen, tr("Reconciliation History"), {750, 500});
+}
+
+void MainWindow::showRecurringWindow()
+{
+    QPointer<RecurringScreen> &screen = screenOf<RecurringScreen>();
+    if (!screen) {
+        screen = new RecurringScreen(m_appState);
+        connect(screen, &RecurringScreen::transactionsChanged, this, [this] {
+            m_registerScreen->refresh();
+            populateAccountList();
+        });
+        connect(m_appState->recurring(), &RecurringRepository::recurringChanged, screen,
+                [window = screen.data()] {
+                    if (window->isVisible())
+                        window->scheduleRefresh();
+                });
+    }
+    screen->refresh();
+    presentWindow(screen, tr("Recurring Transactions"), {700, 500});
+}
+
+void MainWindow::showCategoriesWindow()
+{
+    QPointer<CategoriesScreen> &screen = screenOf<CategoriesScreen>();
+    if (!screen)
+        screen = new CategoriesScreen(m_appState);
+    screen->reloadTree();
+    presentWindow(screen, tr("Categories"), {600, 500});
+}
+
+void MainWindow::showPayeesWindow()
+{
+    QPointer<PayeeScreen> &screen = screenOf<PayeeScreen>();
+    if (!screen) {
+        screen = new PayeeScreen(m_appState);
+        connect(screen, &PayeeScreen::payeesChanged, m_registerScreen, &RegisterScreen::refresh);
+    }
+    screen->refresh();
+    presentWindow(screen, tr("Payee Management"), {550, 500});
+}

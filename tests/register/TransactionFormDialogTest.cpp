@@ -1,0 +1,241 @@
+#include "register/TransactionFormDialog.h"
+#include "core/state/AppState.h"
+#include "data/CategoryRepository.h"
+#include "data/SplitLineRepository.h"
+#include "register/DateField.h"
+#include "register/SmartAmountField.h"
+#include "register/SplitEditorDialog.h"
+#include "screens/ScreenFixture.h"
+#include "support/DialogAnswer.h"
+#include "support/SampleRecords.h"
+#include "support/TestSupport.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TransactionFormDialogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_fixture.reset(); }
+
+    void newTransaction_data();
+    void newTransaction();
+    void editKeepsWhatItDoesNotShow();
+    void payeeBringsItsLastTransaction();
+    void splitFollowsTheType();
+    void remainingTellsTheDifference();
+    void tabWalksThroughTheSplitAndOut();
+
+private:
+    template <typename Type> static Type *child(const QWidget &dialog, const QString &name)
+    {
+        return dialog.findChild<Type *>(name);
+    }
+    static QString categoryText(const QWidget &dialog)
+    {
+        return child<QComboBox>(dialog, u"categoryCombo"_s)->currentText();
+    }
+    template <typename Box> static Box *boxAt(const QWidget &dialog, int row, int column)
+    {
+        const auto *table = child<QTableWidget>(dialog, u"splitTable"_s);
+        return qobject_cast<Box *>(table->cellWidget(row, column));
+    }
+    SplitLine line(qint64 amount, const QString &categoryId) const
+    {
+        return {u"line %1"_s.arg(amount),
+                {},
+                categoryId,
+                amount,
+                awkwardWords(),
+                sampleStamp(),
+                sampleStamp()};
+    }
+
+    std::unique_ptr<ScreenFixture> m_fixture;
+    QString m_checking;
+    QString m_pets;
+};
+
+void TransactionFormDialogTest::init()
+{
+    m_fixture = std::make_unique<ScreenFixture>();
+    m_checking = m_fixture->addAccount(u"Checking"_s);
+    m_pets = m_fixture->categoryId(u"Pets"_s);
+}
+
+void TransactionFormDialogTest::newTransaction_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<double>("amount");
+    QTest::addColumn<QString>("categoryText");
+    QTest::addColumn<qint64>("storedAmount");
+    QTest::addColumn<QString>("parentCategory"); // of the stored one; "-": none is stored
+    QTest::newRow("payment, not exact in binary")
+        << u"payment"_s << 1.15 << u"Pets"_s << qint64(-115) << QString();
+    QTest::newRow("deposit at the limit, name of two categories")
+        << u"deposit"_s << 99999999.99 << u"Housing > Maintenance"_s << qint64(9999999999)
+        << u"Housing"_s;
+    QTest::newRow("bare name of a subcategory")
+        << u"payment"_s << 0.0 << u"Maintenance"_s << qint64(0) << u"-"_s;
+    QTest::newRow("none") << u"deposit"_s << 0.01 << u"(none)"_s << qint64(1) << u"-"_s;
+}
+
+void TransactionFormDialogTest::newTransaction()
+{
+    QFETCH(QString, type);
+    QFETCH(double, amount);
+    QFETCH(QString, categoryText);
+    QFETCH(QString, parentCategory);
+
+    const TransactionFormDialog dialog(&m_fixture->state(), m_checking);
+    child<QRadioButton>(dialog, type + u"Radio"_s)->setChecked(true);
+    child<DateField>(dialog, u"dateField"_s)->setText(u"2/29/2024"_s);
+    child<QLineEdit>(dialog, u"payeeEdit"_s)->setText(u"  "_s + awkwardWords() + u' ');
+    child<SmartAmountField>(dialog, u"amountField"_s)->setValue(amount);
+    child<QComboBox>(dialog, u"categoryCombo"_s)->setCurrentText(categoryText);
+    const Transaction typed = dialog.transaction();
+    QVERIFY(!typed.id.isEmpty() && typed.created_at.isValid() && typed.updated_at.isValid());
+    QCOMPARE(typed.account_id, m_checking);
+    QCOMPARE(typed.date, QDate(2024, 2, 29));
+    QCOMPARE(typed.payee, awkwardWords());
+    QTEST(typed.amount, "storedAmount");
+    const QString name = categoryText.split(u" > "_s).last();
+    QCOMPARE(typed.category_id,
+             parentCategory == u"-"_s ? QString() : m_fixture->categoryId(name, parentCategory));
+    const TransactionFormDialog next(&m_fixture->state(), m_checking);
+    QCOMPARE(next.transaction().date, typed.date);
+}
+
+// The amount is beyond what the box can hold, and the category deleted since.
+void TransactionFormDialogTest::editKeepsWhatItDoesNotShow()
+{
+    Transaction stored = sampleTransaction();
+    stored.is_split = false;
+    stored.memo = u"it's %1"_s;
+    stored.category_id = m_pets;
+    m_fixture->state().categories()->softDelete(m_pets);
+    const TransactionFormDialog dialog(&m_fixture->state(), stored);
+    QCOMPARE(categoryText(dialog), u"Pets"_s);
+    Transaction returned = dialog.transaction();
+    QVERIFY(std::exchange(returned.updated_at, stored.updated_at) > stored.updated_at);
+    QCOMPARE(std::exchange(returned.sync_status, stored.sync_status), SyncStatus::Pending);
+    QVERIFY(returned == stored);
+    child<SmartAmountField>(dialog, u"amountField"_s)->setValue(2.0);
+    QCOMPARE(dialog.transaction().amount, -200);
+}
+
+void TransactionFormDialogTest::splitFollowsTheType()
+{
+    Transaction stored = m_fixture->addTransaction(m_checking, u"2024-01-05"_s, u"Market"_s, -1000,
+                                                   {.category_id = m_pets, .is_split = true});
+    SplitLine half = line(-500, m_pets);
+    half.transaction_id = stored.id;
+    QVERIFY(m_fixture->state().splitLines()->insert(half));
+    TransactionFormDialog dialog(&m_fixture->state(), stored);
+    auto *splitButton = child<QPushButton>(dialog, u"splitButton"_s);
+    QCOMPARE(dialog.splitLines(), {half});
+    QCOMPARE(categoryText(dialog), u"—Split—"_s);
+    child<QRadioButton>(dialog, u"depositRadio"_s)->setChecked(true);
+    QCOMPARE(dialog.splitLines().first().amount, 500);
+    const DialogAnswer answer(u"splitEditorDialog"_s, [](QDialog *editor) {
+        boxAt<QDoubleSpinBox>(*editor, 0, 1)->setValue(4.0);
+        editor->accept();
+    });
+    splitButton->click();
+    QCOMPARE(dialog.splitLines().first().amount, 400);
+    QVERIFY(dialog.transaction().is_split);
+
+    child<QPushButton>(dialog, u"clearSplitButton"_s)->click();
+    QVERIFY(dialog.splitLines().isEmpty() && !dialog.transaction().is_split);
+    QCOMPARE(dialog.transaction().category_id, m_pets);
+    child<SmartAmountField>(dialog, u"amountField"_s)->setValue(0.0);
+    dialog.show();
+    splitButton->click(); // nothing to divide
+    QCOMPARE(dialog.focusWidget(), child<SmartAmountField>(dialog, u"amountField"_s));
+}
+
+void TransactionFormDialogTest::remainingTellsTheDifference()
+{
+    m_fixture->state().categories()->softDelete(m_pets);
+    const SplitEditorDialog editor(&m_fixture->state(), -1000,
+                                   {line(-10, m_pets), line(0, m_pets), line(300, u"unknown"_s)});
+    const auto *remaining = child<QLabel>(editor, u"remainingLabel"_s);
+    const auto allot = [&](double amount) {
+        boxAt<QDoubleSpinBox>(editor, 2, 1)->setValue(amount);
+        return remaining->text() + remaining->styleSheet();
+    };
+    QCOMPARE(remaining->text(), u"Remaining: $6.90"_s);
+    QCOMPARE(allot(9.91), u"Remaining: -$0.01color: #cc0000;"_s);
+    QCOMPARE(allot(9.9), u"Remaining: $0.00color: green;"_s);
+    const QList<SplitLine> lines = editor.splitLines();
+    QCOMPARE(lines.size(), 2);
+    QVERIFY(lines.at(0).id != u"line -10"_s && lines.at(0).id != lines.at(1).id);
+    QCOMPARE(lines.at(0).amount, -10);
+    QCOMPARE(lines.at(0).category_id, m_pets);
+    QCOMPARE(lines.at(1).amount, -990);
+    QCOMPARE(lines.at(1).category_id, QString());
+    child<QTableWidget>(editor, u"splitTable"_s)->setCurrentCell(2, 0);
+    child<QPushButton>(editor, u"removeLineButton"_s)->click();
+    QCOMPARE(remaining->text() + remaining->styleSheet(), u"Remaining: $9.90"_s);
+}
+
+void TransactionFormDialogTest::payeeBringsItsLastTransaction()
+{
+    m_fixture->addTransaction(m_checking, u"2024-02-05"_s, u"The Vet"_s, 4210,
+                              {.category_id = m_pets, .check_number = u"9"_s, .cleared = true});
+    TransactionFormDialog dialog(&m_fixture->state(), m_checking);
+    child<QLineEdit>(dialog, u"memoEdit"_s)->setText(u"old"_s);
+    dialog.onPayeeSelected(u"Stranger"_s);
+    QCOMPARE(dialog.transaction().memo, u"old"_s);
+
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClicks(dialog.focusWidget(), u"vet"_s);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    QVERIFY(dialog.isVisible());
+    const Transaction filled = dialog.transaction();
+    QCOMPARE(filled.payee, u"The Vet"_s);
+    QCOMPARE(filled.amount, 4210);
+    QCOMPARE(filled.category_id, m_pets);
+    QCOMPARE(filled.memo, QString());
+    QVERIFY(filled.check_number.isEmpty() && !filled.cleared);
+}
+
+void TransactionFormDialogTest::tabWalksThroughTheSplitAndOut()
+{
+    SplitEditorDialog editor(&m_fixture->state(), -1000, {});
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    const auto press = [&editor](Qt::Key key) {
+        QTest::keyClick(editor.windowHandle(), key);
+        QCoreApplication::processEvents();
+    };
+    boxAt<QComboBox>(editor, 1, 0)->setFocus();
+    press(Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"3.50"_s);
+    press(Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"cat"_s);
+    press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), child<QPushButton>(editor, u"addLineButton"_s));
+    QCOMPARE(editor.splitLines().first().amount, -350);
+    QCOMPARE(editor.splitLines().first().memo, u"cat"_s);
+
+    // The row that holds the focus is the one to be removed.
+    QTest::mouseClick(boxAt<QDoubleSpinBox>(editor, 0, 1), Qt::LeftButton);
+    child<QPushButton>(editor, u"removeLineButton"_s)->click();
+    QCOMPARE(editor.splitLines().size(), 1);
+}
+
+PURSEWELL_TEST_MAIN(TransactionFormDialogTest)
+#include "TransactionFormDialogTest.moc"

@@ -1,0 +1,198 @@
+#include "screens/CategoriesScreen.h"
+
+#include "core/state/AppState.h"
+#include "data/CategoryRepository.h"
+#include "screens/CategoryFormDialog.h"
+#include "screens/CategoryTreeModel.h"
+#include "screens/ScreenFixture.h"
+#include "support/DialogAnswer.h"
+#include "support/SampleRecords.h"
+#include "support/TestSupport.h"
+
+using namespace Qt::StringLiterals;
+
+class CategoriesScreenTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void parentsInACircleStayVisible();
+    void searchShowsParents();
+    void changesKeepWhatIsExpanded_data();
+    void changesKeepWhatIsExpanded();
+    void formKeepsWhatItDoesNotShow();
+
+private:
+    Category add(const QString &id, const QString &parentId = {});
+    QString shown(const QModelIndex &parent = {}) const; // "A (a b) C": open ones with children
+    QModelIndex find(const QString &name) const;
+    void choose(const QString &name, const QString &entry); // in the context menu
+
+    std::unique_ptr<ScreenFixture> m_fixture;
+    std::unique_ptr<CategoriesScreen> m_screen;
+    QTreeView *m_tree = nullptr;
+};
+
+void CategoriesScreenTest::init()
+{
+    m_fixture = std::make_unique<ScreenFixture>();
+    m_fixture->run(u"UPDATE categories SET deleted_at = created_at"_s);
+    add(u"Food"_s);
+    add(u"bread"_s, u"Food"_s);
+    add(u"Fun %1"_s);
+    add(u"zoo"_s, u"Fun %1"_s);
+    add(u"apples"_s, u"Food"_s);
+    m_screen = std::make_unique<CategoriesScreen>(&m_fixture->state());
+    m_tree = m_screen->findChild<QTreeView *>();
+    new QAbstractItemModelTester(m_screen->findChild<CategoryTreeModel *>(), m_tree);
+    new QAbstractItemModelTester(m_tree->model(), m_tree);
+    m_screen->reloadTree();
+    m_screen->resize(600, 500);
+    m_screen->show();
+    m_screen->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
+}
+
+void CategoriesScreenTest::cleanup()
+{
+    m_screen.reset();
+    m_fixture.reset();
+}
+
+Category CategoriesScreenTest::add(const QString &id, const QString &parentId)
+{
+    Category category;
+    category.id = id;
+    category.name = id;
+    category.parent_id = parentId;
+    category.created_at = sampleStamp();
+    category.updated_at = sampleStamp();
+    if (!m_fixture->state().categories()->insert(category))
+        qFatal("category not stored");
+    return category;
+}
+
+QString CategoriesScreenTest::shown(const QModelIndex &parent) const
+{
+    QStringList rows;
+    for (int row = 0; row < m_tree->model()->rowCount(parent); ++row) {
+        const QModelIndex index = m_tree->model()->index(row, 0, parent);
+        rows << index.data().toString();
+        if (m_tree->isExpanded(index) && m_tree->model()->hasChildren(index))
+            rows << u'(' + shown(index) + u')';
+    }
+    return rows.join(u' ');
+}
+
+QModelIndex CategoriesScreenTest::find(const QString &name) const
+{
+    const QModelIndexList found =
+        m_tree->model()->match(m_tree->model()->index(0, 0), Qt::DisplayRole, name, 1,
+                               Qt::MatchExactly | Qt::MatchRecursive);
+    return found.value(0);
+}
+
+void CategoriesScreenTest::choose(const QString &name, const QString &entry)
+{
+    QTimer::singleShot(0, this, [&entry] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QAction *chosen = nullptr;
+        for (QAction *action : menu->actions()) {
+            if (action->text() == entry)
+                chosen = action;
+        }
+        menu->close();
+        QVERIFY2(chosen, qPrintable(entry));
+        chosen->trigger();
+    });
+    Q_EMIT m_tree->customContextMenuRequested(m_tree->visualRect(find(name)).center());
+}
+
+void CategoriesScreenTest::parentsInACircleStayVisible()
+{
+    m_fixture->run(u"UPDATE categories SET parent_id = 'zoo' WHERE id = 'Fun %1'"_s);
+    m_fixture->run(u"UPDATE categories SET parent_id = 'Food' WHERE id = 'Food'"_s);
+    m_screen->reloadTree();
+    m_tree->expandAll();
+    QCOMPARE(shown(), u"Food (apples bread) zoo (Fun %1)"_s);
+}
+
+void CategoriesScreenTest::searchShowsParents()
+{
+    QCOMPARE(shown(), u"Food Fun %1"_s);
+    auto *search = m_screen->findChild<QLineEdit *>(u"searchEdit"_s);
+    search->setText(u"BREA"_s);
+    QCOMPARE(shown(), u"Food (bread)"_s);
+    search->setText(u"%1"_s);
+    QCOMPARE(shown(), u"Fun %1"_s);
+    search->clear();
+    QCOMPARE(shown(), u"Food Fun %1"_s);
+}
+
+void CategoriesScreenTest::changesKeepWhatIsExpanded_data()
+{
+    QTest::addColumn<QString>("row");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("name"); // typed; empty: a question is answered
+    QTest::addColumn<QString>("tree");
+    QTest::addColumn<QString>("current");
+    QTest::newRow("add") << u"Food"_s << u"&New Category"_s << u" Car "_s
+                         << u"Car Food (apples bread) Fun %1"_s << u"Car"_s;
+    QTest::newRow("add below") << u"Fun %1"_s << u"Add &Subcategory"_s << u"cinema"_s
+                               << u"Food (apples bread) Fun %1 (cinema zoo)"_s << u"cinema"_s;
+    QTest::newRow("edit") << u"bread"_s << u"&Edit"_s << u"Aa \"%1\""_s
+                          << u"Food (Aa \"%1\" apples) Fun %1"_s << u"Aa \"%1\""_s;
+    QTest::newRow("delete a child")
+        << u"bread"_s << u"&Delete"_s << QString() << u"Food (apples) Fun %1"_s << QString();
+    QTest::newRow("delete a parent")
+        << u"Fun %1"_s << u"&Delete"_s << QString() << u"Food (apples bread) zoo"_s << QString();
+}
+
+void CategoriesScreenTest::changesKeepWhatIsExpanded()
+{
+    QFETCH(QString, row);
+    QFETCH(QString, entry);
+    QFETCH(QString, name);
+    QFETCH(QString, tree);
+    m_tree->expand(find(u"Food"_s));
+    std::optional<DialogAnswer> answer;
+    if (name.isEmpty()) {
+        answer.emplace(u"deleteCategoryQuestion"_s, [&row](QDialog *dialog) {
+            auto *box = qobject_cast<QMessageBox *>(dialog);
+            QVERIFY2(box->text().startsWith(u"Delete \"%1\"? Trans"_s.arg(row)),
+                     qPrintable(box->text()));
+            box->button(QMessageBox::Yes)->click();
+        });
+    } else {
+        answer.emplace(u"categoryFormDialog"_s, [&name](QDialog *dialog) {
+            dialog->findChild<QLineEdit *>(u"nameEdit"_s)->setText(name);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+    }
+    choose(row, entry);
+    QVERIFY(answer->wasAsked());
+    QCOMPARE(shown(), tree);
+    QTEST(m_tree->currentIndex().data().toString(), "current");
+    QCoreApplication::processEvents(); // the repository's own notification comes later
+    QCOMPARE(shown(), tree);
+}
+
+void CategoriesScreenTest::formKeepsWhatItDoesNotShow()
+{
+    Category stored = sampleCategory(); // of transfers, which the form has no item for
+    stored.parent_id = u"Food"_s;
+    const CategoryFormDialog dialog(stored, m_fixture->state().categories()->listActive());
+    QCOMPARE(dialog.findChild<QLabel *>(u"parentLabel"_s)->text(), u"Food"_s);
+    Category edited = dialog.category();
+    stored.category_type = CategoryType::Expense;
+    stored.sync_status = SyncStatus::Pending;
+    stored.updated_at = edited.updated_at;
+    QVERIFY(edited == stored);
+    dialog.findChild<QCheckBox *>()->click();
+    QCOMPARE(dialog.category().tax_category, QString());
+}
+
+PURSEWELL_TEST_MAIN(CategoriesScreenTest)
+#include "CategoriesScreenTest.moc"

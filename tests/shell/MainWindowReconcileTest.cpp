@@ -1,0 +1,68 @@
+#include "register/RegisterColumn.h"
+#include "screens/ReconciliationHistoryScreen.h"
+#include "screens/ReconciliationScreen.h"
+#include "shell/ShellFixture.h"
+#include "support/TestSupport.h"
+
+using namespace Qt::StringLiterals;
+
+class MainWindowReconcileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyRunHasItsOwnWindow();
+    void historyWindowIsReused();
+};
+
+void MainWindowReconcileTest::everyRunHasItsOwnWindow()
+{
+    ShellFixture shell;
+    shell.addAccount(u"Everyday %1"_s);
+    shell.addTransaction(u"Everyday %1"_s, 100);
+    const MainWindow *window = shell.openWindow();
+    shell.find<QPushButton>(u"reconcileButton"_s)->click();
+    shell.trigger(u"reconcileAction"_s);
+    const auto open = [window] { return window->findChildren<ReconciliationScreen *>(); };
+    QCOMPARE(open().size(), 2);
+    ReconciliationScreen *screen = open().last();
+    QVERIFY(screen->isWindow() && screen->isVisible());
+    QCOMPARE(screen->windowTitle(), u"Reconcile — Everyday %1"_s);
+    QCOMPARE(screen->size(), QSize(1100, 720));
+    open().first()->findChild<QPushButton *>(u"cancelButton"_s)->click();
+    QTRY_COMPARE(open(), QList<ReconciliationScreen *>{screen});
+
+    screen->onTransactionToggled(0);
+    screen->findChild<QDoubleSpinBox *>(u"statementBalance"_s)->setValue(1.0);
+    const DialogAnswer answer(u"reconciliationCompleteBox"_s, [](QDialog *) {});
+    screen->findChild<QPushButton *>(u"finishButton"_s)->click();
+    QTRY_VERIFY(open().isEmpty());
+    QCOMPARE(shell.valueOf(u"SELECT reconciled FROM transactions"_s), u"1"_s);
+    const auto *grid = shell.find<QTableView>(u"registerTable"_s);
+    QCOMPARE(grid->model()->index(0, RegisterColumn::Clr).data().toString(), u"R"_s);
+}
+
+void MainWindowReconcileTest::historyWindowIsReused()
+{
+    ShellFixture shell;
+    shell.addAccount(u"One"_s);
+    shell.addAccount(u"Two"_s);
+    MainWindow *window = shell.openWindow();
+    shell.trigger(u"reconciliationHistoryAction"_s);
+    const auto open = [window] { return window->findChildren<ReconciliationHistoryScreen *>(); };
+    QCOMPARE(open().size(), 1);
+    QCOMPARE(open().first()->size(), QSize(750, 500));
+    open().first()->resize(800, 300);
+    open().first()->close();
+
+    window->selectAccount(u"Two"_s);
+    shell.trigger(u"reconciliationHistoryAction"_s);
+    QCOMPARE(open().size(), 1);
+    QVERIFY(open().first()->isVisible());
+    QCOMPARE(open().first()->size(), QSize(800, 300)); // as it was left
+    QCOMPARE(open().first()->findChild<QLabel *>(u"titleLabel"_s)->text(),
+             u"Reconciliation History — Two"_s);
+}
+
+PURSEWELL_TEST_MAIN(MainWindowReconcileTest)
+#include "MainWindowReconcileTest.moc"
