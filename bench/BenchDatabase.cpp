@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kRows = 100000;
+// Some of them are so rare that they do not come up: some 5,000 do.
+constexpr HouseholdHabits kNeglectful{.payees = 5120, .reconciles = false};
 
 // A null text where the array is empty, as the program stores it.
 void bindText(sqlite3_stmt *statement, int position, const QByteArray &text)
@@ -119,7 +121,9 @@ void BenchDatabase::fill(Shape shape)
 {
     PlainSqlite plain(m_path);
     plain.execute("PRAGMA foreign_keys=ON; BEGIN");
-    HouseholdRows rows(kRows, plain.firstColumn("SELECT id FROM categories ORDER BY id"));
+    const bool neglected = shape == Shape::Neglected;
+    HouseholdRows rows(kRows, plain.firstColumn("SELECT id FROM categories ORDER BY id"),
+                       neglected ? kNeglectful : HouseholdHabits());
     const bool one_account = shape == Shape::OneAccount;
     // 8% of the rows belong to a transfer; with ten accounts each draw makes two of them.
     const quint32 transfer_percent = one_account ? 8 : 4;
@@ -138,5 +142,16 @@ void BenchDatabase::fill(Shape shape)
             writer.write(row);
         }
     }
+    if (neglected)
+        reconcileButFew(plain);
     plain.execute("COMMIT; PRAGMA wal_checkpoint(TRUNCATE)");
+}
+
+void BenchDatabase::reconcileButFew(PlainSqlite &plain) const
+{
+    const QByteArray account = m_accountIds.at(1).toLatin1();
+    plain.execute("UPDATE transactions SET cleared = 1, reconciled = 1 WHERE account_id = '"
+                  + account
+                  + "' AND rowid NOT IN (SELECT rowid FROM transactions WHERE account_id = '"
+                  + account + "' ORDER BY date DESC, created_at DESC LIMIT 100)");
 }

@@ -10,7 +10,6 @@ namespace {
 
 const QDate kFirstDay(2011, 11, 1);
 const QDate kLastDay(2026, 10, 31);
-constexpr quint32 kPayees = 800;
 constexpr int kRareWordEvery = 20000;
 
 constexpr std::array kPlaces{
@@ -37,9 +36,11 @@ constexpr std::array kMemos{"weekly shopping",
 
 } // namespace
 
-HouseholdRows::HouseholdRows(int count, QList<QByteArray> categoryIds)
+HouseholdRows::HouseholdRows(int count, QList<QByteArray> categoryIds,
+                             const HouseholdHabits &habits)
     : m_count(count)
     , m_categoryIds(std::move(categoryIds))
+    , m_habits(habits)
 {
 }
 
@@ -92,9 +93,11 @@ QByteArray HouseholdRows::drawId()
 QByteArray HouseholdRows::drawPayee()
 {
     // The smaller of two draws: some payees are met every week, most of them once a year.
-    const quint32 payee = std::min(drawBelow(kPayees), drawBelow(kPayees));
-    const QByteArray place = kPlaces.at(payee / kTrades.size());
-    return place + ' ' + kTrades.at(payee % kTrades.size());
+    const quint32 payee = std::min(drawBelow(m_habits.payees), drawBelow(m_habits.payees));
+    const QByteArray place = kPlaces.at(payee / kTrades.size() % kPlaces.size());
+    const QByteArray name = place + ' ' + kTrades.at(payee % kTrades.size());
+    const size_t branch = payee / (kTrades.size() * kPlaces.size());
+    return branch == 0 ? name : name + " branch " + QByteArray::number(quint64(branch));
 }
 
 QByteArray HouseholdRows::drawMemo(int index)
@@ -110,6 +113,6 @@ QByteArray HouseholdRows::drawMemo(int index)
 void HouseholdRows::drawState(HouseholdRow &row)
 {
     const qint64 age = row.date.daysTo(kLastDay);
-    row.reconciled = age > 45;
+    row.reconciled = m_habits.reconciles && age > 45;
     row.cleared = row.reconciled || (age > 5 && drawBelow(100) < 70);
 }

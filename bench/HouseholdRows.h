@@ -26,13 +26,19 @@ struct HouseholdRow
     bool operator==(const HouseholdRow &) const = default;
 };
 
+struct HouseholdHabits
+{
+    quint32 payees = 800;
+    bool reconciles = true; // what is older than a statement
+};
+
 // Draws transactions from a fixed seed. The standard fixes what the engine returns but not what its
 // distributions make of it, so every draw is a remainder.
 class HouseholdRows
 {
 public:
     // The row at position `index` of `count` falls on that share of the 15 years.
-    HouseholdRows(int count, QList<QByteArray> categoryIds);
+    HouseholdRows(int count, QList<QByteArray> categoryIds, const HouseholdHabits &habits);
 
     HouseholdRow draw(int index, int account);
     bool drawsChance(quint32 percent) { return drawBelow(100) < percent; }
@@ -49,5 +55,6 @@ private:
     std::mt19937 m_engine{20111101};
     int m_count;
     QList<QByteArray> m_categoryIds;
+    HouseholdHabits m_habits;
     int m_nextCheck = 1001;
 };

@@ -76,6 +76,8 @@ void measure(benchmark::State &state, const PairLine &line, const Pair &pair)
         const Seconds whole = timed(pair.program);
         const Seconds program = pair.finished ? Seconds(pair.finished() - start) : whole;
         state.SetIterationTime(program.count());
+        if (pair.restore)
+            pair.restore();
         counterpart += timed(pair.counterpart);
     }
     state.counters[kCounterpart] = counterpart.count() / double(state.iterations());

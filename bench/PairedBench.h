@@ -9,6 +9,7 @@ struct Pair
 {
     std::function<void()> prepare{}; // runs before each measurement, not measured; may be empty
     std::function<void()> program{};
+    std::function<void()> restore{}; // runs before the counterpart, not measured; may be empty
     std::function<void()> counterpart{};
     // When the program had done what is measured, if that was before it returned; may be empty.
     std::function<std::chrono::steady_clock::time_point()> finished{};

@@ -18,6 +18,14 @@ qint64 touchColumn(sqlite3_stmt *statement, int column)
     return sqlite3_column_bytes(statement, column);
 }
 
+void bindTexts(sqlite3_stmt *statement, const QList<QByteArray> &bound)
+{
+    for (int i = 0; i < bound.size(); ++i) {
+        sqlite3_bind_text(statement, i + 1, bound.at(i).constData(), int(bound.at(i).size()),
+                          SQLITE_TRANSIENT);
+    }
+}
+
 } // namespace
 
 PlainSqlite::PlainSqlite(const QString &path)
@@ -35,10 +43,7 @@ PlainSqlite::~PlainSqlite()
 qint64 PlainSqlite::readAll(const QByteArray &sql, const QList<QByteArray> &bound)
 {
     sqlite3_stmt *statement = prepare(sql);
-    for (int i = 0; i < bound.size(); ++i) {
-        sqlite3_bind_text(statement, i + 1, bound.at(i).constData(), int(bound.at(i).size()),
-                          SQLITE_TRANSIENT);
-    }
+    bindTexts(statement, bound);
     const int columns = sqlite3_column_count(statement);
     qint64 rows = 0;
     qint64 touched = 0;
@@ -74,4 +79,22 @@ sqlite3_stmt *PlainSqlite::prepare(const QByteArray &sql)
         != SQLITE_OK)
         giveUp(m_handle);
     return statement;
+}
+
+PlainWrite::PlainWrite(PlainSqlite &plain, const QByteArray &sql)
+    : m_statement(plain.prepare(sql))
+{
+}
+
+PlainWrite::~PlainWrite()
+{
+    sqlite3_finalize(m_statement);
+}
+
+void PlainWrite::run(const QList<QByteArray> &bound)
+{
+    bindTexts(m_statement, bound);
+    if (sqlite3_step(m_statement) != SQLITE_DONE)
+        giveUp(sqlite3_db_handle(m_statement));
+    sqlite3_reset(m_statement);
 }

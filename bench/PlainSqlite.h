@@ -26,3 +26,18 @@ public:
 private:
     sqlite3 *m_handle = nullptr;
 };
+
+// A write that is prepared once and run with other values each time.
+class PlainWrite
+{
+public:
+    PlainWrite(PlainSqlite &plain, const QByteArray &sql);
+    ~PlainWrite();
+    PlainWrite(const PlainWrite &) = delete;
+    PlainWrite &operator=(const PlainWrite &) = delete;
+
+    void run(const QList<QByteArray> &bound); // a column of numbers makes them of the texts
+
+private:
+    sqlite3_stmt *m_statement;
+};

@@ -7,7 +7,18 @@ Workbench::Workbench(BenchDatabase::Shape shape)
     , m_plain(m_files.path())
 {
     qputenv("PURSEWELL_DATA_DIR", m_directory.path().toUtf8());
-    if (!m_state.initialize())
+    openState();
+}
+
+void Workbench::closeState()
+{
+    m_state.reset();
+}
+
+void Workbench::openState()
+{
+    m_state = std::make_unique<AppState>();
+    if (!m_state->initialize())
         qFatal("bench database: not opened");
 }
 

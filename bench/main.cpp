@@ -1,5 +1,8 @@
 #include "PairedBench.h"
+#include "PayeeBenches.h"
 #include "ReadBenches.h"
+#include "ReconciliationBenches.h"
+#include "RecurringBenches.h"
 #include "ScreenBenches.h"
 
 #include <QApplication>
@@ -45,6 +48,9 @@ int main(int argc, char *argv[])
         registerReadBenches(shape);
         registerScreenBenches(shape);
     }
+    registerRecurringBenches();
+    registerReconciliationBenches();
+    registerPayeeBenches();
     runPairs();
     return 0;
 }

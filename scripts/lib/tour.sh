@@ -38,19 +38,38 @@ open_display() {
   wait_until 20 "the virtual display" test -s "$stage/display"
   DISPLAY=:$(<"$stage/display")
   export DISPLAY
-  # A window manager of our own taste: new windows get the focus, and no key is taken away.
+  add_letters
+  # A window manager of our own taste: new windows get the focus, and of all keys only Alt+F4 is
+  # taken away.
   cat >"$stage/openbox.xml" <<'XML'
 <?xml version="1.0" encoding="UTF-8"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
   <focus><focusNew>yes</focusNew><focusLast>yes</focusLast></focus>
   <placement><policy>Smart</policy><center>yes</center></placement>
-  <keyboard/>
+  <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
   <mouse/>
 </openbox_config>
 XML
   openbox --sm-disable --config-file "$stage/openbox.xml" >"$stage/openbox.log" 2>&1 &
   stage_pids+=($!)
   wait_until 20 "the window manager" window_manager_runs
+}
+
+# Gives each letter that a US keyboard lacks a key of its own. xdotool would move one spare key from
+# letter to letter, and a busy program would read the letter that came next.
+add_letters() {
+  local letters="מכולתé😀" code=160 keys="" hex i
+  for ((i = 0; i < ${#letters}; ++i)); do
+    printf -v hex '%X' "'${letters:i:1}"
+    keys+="key <I$((code + i))> { [ U$hex ] };"$'\n'
+  done
+  {
+    xkbcomp "$DISPLAY" - | awk -v keys="$keys" '
+      /^xkb_symbols/ { symbols = 1 }
+      symbols && /^};/ { printf "%s", keys; symbols = 0 }
+      { print }' >"$stage/keyboard.xkb"
+    xkbcomp "$stage/keyboard.xkb" "$DISPLAY"
+  } 2>"$stage/xkbcomp.log"
 }
 
 window_manager_runs() {
@@ -74,7 +93,7 @@ close_stage() {
 
 keep_evidence() {
   timeout 10 import -window root "$pictures/failure.png" 2>/dev/null || true
-  cp -r "$stage/data" "$stage"/*.log "$pictures/" 2>/dev/null || true
+  cp -r "$PURSEWELL_DATA_DIR" "$stage"/*.log "$pictures/" 2>/dev/null || true
   printf '%s: failed; the last picture, the database and the logs are in %s\n' \
     "$script_name" "$pictures" >&2
 }
@@ -94,6 +113,12 @@ wait_until() {
     fi
     sleep 0.05
   done
+}
+
+# new_household <name>: an empty one, with settings of its own.
+new_household() {
+  export PURSEWELL_DATA_DIR=$stage/$1 XDG_CONFIG_HOME=$stage/$1-config
+  mkdir "$PURSEWELL_DATA_DIR" "$XDG_CONFIG_HOME"
 }
 
 # --- the program -------------------------------------------------------------------------------
@@ -142,6 +167,12 @@ active_window_is() {
 # Until the window with this title has the focus, so that the next key goes to it.
 wait_for_window() {
   wait_until 20 "the window \"$1\"" active_window_is "$1"
+}
+
+# close_window <title>: the window with the focus, until the one with the title has it.
+close_window() {
+  press alt+F4
+  wait_for_window "$1"
 }
 
 press() {
@@ -208,7 +239,10 @@ expect_rows() {
 dump_household() {
   sql "SELECT * FROM accounts ORDER BY id"
   sql "SELECT * FROM transactions ORDER BY id"
-  sql "SELECT COUNT(*) FROM categories"
+  sql "SELECT * FROM split_lines ORDER BY id"
+  sql "SELECT * FROM recurring_transactions ORDER BY id"
+  sql "SELECT * FROM reconciliations ORDER BY id"
+  sql "SELECT * FROM categories ORDER BY id"
 }
 
 # expect_same_household <when> <earlier dump>
@@ -217,6 +251,20 @@ expect_same_household() {
     fail "the database is not the same $1"
   fi
   expect_rows "the integrity of the database" "PRAGMA integrity_check" <<<"ok"
+}
+
+# As if another device had everything: rows written from here on stand out.
+mark_all_synced() {
+  [ -z "$program_pid" ] || fail "rows are marked only between two runs"
+  local table
+  for table in accounts transactions categories recurring_transactions; do
+    sql "UPDATE $table SET sync_status = 'synced', updated_at = '2001-02-03T04:05:06Z'"
+  done
+}
+
+# fresh <table>: 1 for a row that waits to be synced, with a time stamp of this run.
+fresh() {
+  printf "(%s.sync_status = 'pending' AND %s.updated_at > date('now', '-1 day'))" "$1" "$1"
 }
 
 set_preference() {

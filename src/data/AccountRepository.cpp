@@ -71,8 +71,7 @@ QList<Account> AccountRepository::listActive() const
 std::optional<Account> AccountRepository::findById(const QString &id) const
 {
     QSqlQuery query =
-        readQuery(m_database, u"SELECT %1 FROM accounts WHERE id = ?"_s.arg(kColumns));
-    query.addBindValue(id);
+        readQuery(m_database, u"SELECT %1 FROM accounts WHERE id = ?"_s.arg(kColumns), {id});
     return readFirst(query, readRow);
 }
 
@@ -124,10 +123,8 @@ bool AccountRepository::softDelete(const QString &id)
     const QString stamp = isoStamp(currentStamp());
     QSqlQuery query = writeQuery(
         m_database,
-        u"UPDATE accounts SET deleted_at=?, sync_status='pending', updated_at=? WHERE id=?"_s);
-    query.addBindValue(stamp);
-    query.addBindValue(stamp);
-    query.addBindValue(id);
+        u"UPDATE accounts SET deleted_at=?, sync_status='pending', updated_at=? WHERE id=?"_s,
+        {stamp, stamp, id});
     if (!execWrite(query, "AccountRepository::softDelete failed:"))
         return false;
     Q_EMIT accountsChanged();
@@ -138,9 +135,8 @@ bool AccountRepository::restore(const QString &id)
 {
     QSqlQuery query = writeQuery(
         m_database,
-        u"UPDATE accounts SET deleted_at=NULL, sync_status='pending', updated_at=? WHERE id=?"_s);
-    query.addBindValue(isoStamp(currentStamp()));
-    query.addBindValue(id);
+        u"UPDATE accounts SET deleted_at=NULL, sync_status='pending', updated_at=? WHERE id=?"_s,
+        {isoStamp(currentStamp()), id});
     if (!execWrite(query, "AccountRepository::restore failed:"))
         return false;
     Q_EMIT accountsChanged();
@@ -152,10 +148,8 @@ bool AccountRepository::updateSortOrders(const QList<QPair<QString, int>> &order
     SqlTransaction transaction(m_database);
     for (const auto &[id, order] : orders) {
         QSqlQuery query =
-            writeQuery(m_database, u"UPDATE accounts SET sort_order=?, updated_at=? WHERE id=?"_s);
-        query.addBindValue(order);
-        query.addBindValue(isoStamp(currentStamp()));
-        query.addBindValue(id);
+            writeQuery(m_database, u"UPDATE accounts SET sort_order=?, updated_at=? WHERE id=?"_s,
+                       {order, isoStamp(currentStamp()), id});
         if (!query.exec())
             return false;
     }
@@ -178,9 +172,8 @@ int AccountRepository::markAllPendingForResync()
 
 bool AccountRepository::markSynced(const QString &id, const QString &serverId)
 {
-    QSqlQuery query = writeQuery(
-        m_database, u"UPDATE accounts SET sync_status='synced', server_id=? WHERE id=?"_s);
-    query.addBindValue(serverId);
-    query.addBindValue(id);
-    return query.exec();
+    return writeQuery(m_database,
+                      u"UPDATE accounts SET sync_status='synced', server_id=? WHERE id=?"_s,
+                      {serverId, id})
+        .exec();
 }

@@ -67,8 +67,7 @@ QList<Category> CategoryRepository::list(const QString &statement) const
 std::optional<Category> CategoryRepository::findBy(const QString &statement,
                                                    const QString &value) const
 {
-    QSqlQuery query = readQuery(m_database, statement.arg(kColumns));
-    query.addBindValue(value);
+    QSqlQuery query = readQuery(m_database, statement.arg(kColumns), {value});
     return readFirst(query, readRow);
 }
 
@@ -138,10 +137,8 @@ bool CategoryRepository::softDelete(const QString &id)
     const QString stamp = isoStamp(currentStamp());
     QSqlQuery query = writeQuery(
         m_database,
-        u"UPDATE categories SET deleted_at=?, sync_status='pending', updated_at=? WHERE id=?"_s);
-    query.addBindValue(stamp);
-    query.addBindValue(stamp);
-    query.addBindValue(id);
+        u"UPDATE categories SET deleted_at=?, sync_status='pending', updated_at=? WHERE id=?"_s,
+        {stamp, stamp, id});
     if (!execWrite(query, "CategoryRepository::softDelete failed:"))
         return false;
     Q_EMIT categoriesChanged();
@@ -161,9 +158,8 @@ int CategoryRepository::markAllPendingForResync()
 
 bool CategoryRepository::markSynced(const QString &id, const QString &serverId)
 {
-    QSqlQuery query = writeQuery(
-        m_database, u"UPDATE categories SET sync_status='synced', server_id=? WHERE id=?"_s);
-    query.addBindValue(serverId);
-    query.addBindValue(id);
-    return query.exec();
+    return writeQuery(m_database,
+                      u"UPDATE categories SET sync_status='synced', server_id=? WHERE id=?"_s,
+                      {serverId, id})
+        .exec();
 }

@@ -12,8 +12,8 @@ PreferencesRepository::PreferencesRepository(Database *database, QObject *parent
 
 std::optional<QString> PreferencesRepository::get(const QString &key) const
 {
-    QSqlQuery query = readQuery(m_database, u"SELECT value FROM preferences WHERE key = ?"_s);
-    query.addBindValue(key);
+    QSqlQuery query =
+        readQuery(m_database, u"SELECT value FROM preferences WHERE key = ?"_s, {key});
     query.exec();
     return query.next() ? std::optional<QString>(textAt(query, 0)) : std::nullopt;
 }
@@ -33,9 +33,8 @@ bool PreferencesRepository::set(const QString &key, const QString &value)
 {
     QSqlQuery query = writeQuery(m_database,
                                  u"INSERT INTO preferences (key, value) VALUES (?, ?) "
-                                 "ON CONFLICT(key) DO UPDATE SET value = excluded.value"_s);
-    query.addBindValue(key);
-    query.addBindValue(value);
+                                 "ON CONFLICT(key) DO UPDATE SET value = excluded.value"_s,
+                                 {key, value});
     if (!query.exec())
         return false;
     Q_EMIT changed(key);
@@ -54,7 +53,5 @@ void PreferencesRepository::setInt(const QString &key, int value)
 
 bool PreferencesRepository::remove(const QString &key)
 {
-    QSqlQuery query = writeQuery(m_database, u"DELETE FROM preferences WHERE key = ?"_s);
-    query.addBindValue(key);
-    return query.exec();
+    return writeQuery(m_database, u"DELETE FROM preferences WHERE key = ?"_s, {key}).exec();
 }

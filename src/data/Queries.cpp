@@ -18,20 +18,27 @@ qint64 integerFrom(const QVariant &value)
     return qAbs(amount) < 9.2e18 ? qRound64(amount) : 0;
 }
 
+void prepare(QSqlQuery &query, const QString &statement, const QVariantList &values)
+{
+    query.prepare(statement);
+    for (const QVariant &value : values)
+        query.addBindValue(value);
+}
+
 } // namespace
 
-QSqlQuery readQuery(Database *database, const QString &statement)
+QSqlQuery readQuery(Database *database, const QString &statement, const QVariantList &values)
 {
     QSqlQuery query(database->connection());
     query.setForwardOnly(true);
-    query.prepare(statement);
+    prepare(query, statement, values);
     return query;
 }
 
-QSqlQuery writeQuery(Database *database, const QString &statement)
+QSqlQuery writeQuery(Database *database, const QString &statement, const QVariantList &values)
 {
     QSqlQuery query(database->connection());
-    query.prepare(statement);
+    prepare(query, statement, values);
     return query;
 }
 

@@ -12,9 +12,10 @@ class Database;
 
 // What all repositories do alike with a statement.
 
-// Prepared, to be read once from the first row to the last: Qt then keeps no row it has passed.
-QSqlQuery readQuery(Database *database, const QString &statement);
-QSqlQuery writeQuery(Database *database, const QString &statement);
+// Prepared, with the values bound in their order; more can be added. To be read once from the first
+// row to the last: Qt then keeps no row it has passed.
+QSqlQuery readQuery(Database *database, const QString &statement, const QVariantList &values = {});
+QSqlQuery writeQuery(Database *database, const QString &statement, const QVariantList &values = {});
 
 // Runs a write. A failure leaves one warning line: the given words and the database's text.
 bool execWrite(QSqlQuery &query, const char *failureLine);

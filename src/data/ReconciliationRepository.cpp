@@ -60,16 +60,15 @@ QList<Reconciliation> ReconciliationRepository::listByAccount(const QString &acc
     QSqlQuery query =
         readQuery(m_database,
                   u"SELECT %1 FROM reconciliations WHERE account_id = ? AND deleted_at IS NULL "
-                  "ORDER BY statement_date DESC"_s.arg(kColumns));
-    query.addBindValue(accountId);
+                  "ORDER BY statement_date DESC"_s.arg(kColumns),
+                  {accountId});
     return readAll(query, readRow);
 }
 
 std::optional<Reconciliation> ReconciliationRepository::findById(const QString &id) const
 {
     QSqlQuery query =
-        readQuery(m_database, u"SELECT %1 FROM reconciliations WHERE id = ?"_s.arg(kColumns));
-    query.addBindValue(id);
+        readQuery(m_database, u"SELECT %1 FROM reconciliations WHERE id = ?"_s.arg(kColumns), {id});
     return readFirst(query, readRow);
 }
 
@@ -79,8 +78,8 @@ ReconciliationRepository::latestForAccount(const QString &accountId) const
     QSqlQuery query =
         readQuery(m_database,
                   u"SELECT %1 FROM reconciliations WHERE account_id = ? AND deleted_at IS NULL "
-                  "ORDER BY statement_date DESC LIMIT 1"_s.arg(kColumns));
-    query.addBindValue(accountId);
+                  "ORDER BY statement_date DESC LIMIT 1"_s.arg(kColumns),
+                  {accountId});
     return readFirst(query, readRow);
 }
 
@@ -131,10 +130,8 @@ int ReconciliationRepository::softDeleteByAccount(const QString &accountId)
     QSqlQuery query = writeQuery(m_database,
                                  u"UPDATE reconciliations SET deleted_at = ?, updated_at = ?, "
                                  "sync_status = 'pending' "
-                                 "WHERE account_id = ? AND deleted_at IS NULL"_s);
-    query.addBindValue(stamp);
-    query.addBindValue(stamp);
-    query.addBindValue(accountId);
+                                 "WHERE account_id = ? AND deleted_at IS NULL"_s,
+                                 {stamp, stamp, accountId});
     return notified(execBulkWrite(query, "ReconciliationRepository::softDeleteByAccount failed:"));
 }
 
@@ -143,10 +140,8 @@ int ReconciliationRepository::restoreByAccount(const QString &accountId, const Q
     QSqlQuery query = writeQuery(m_database,
                                  u"UPDATE reconciliations SET deleted_at = NULL, updated_at = ?, "
                                  "sync_status = 'pending' "
-                                 "WHERE account_id = ? AND deleted_at >= ?"_s);
-    query.addBindValue(isoStamp(currentStamp()));
-    query.addBindValue(accountId);
-    query.addBindValue(sinceStamp);
+                                 "WHERE account_id = ? AND deleted_at >= ?"_s,
+                                 {isoStamp(currentStamp()), accountId, sinceStamp});
     return notified(execBulkWrite(query, "ReconciliationRepository::restoreByAccount failed:"));
 }
 
@@ -161,11 +156,10 @@ int ReconciliationRepository::markAllPendingForResync()
 
 bool ReconciliationRepository::markSynced(const QString &id, const QString &serverId)
 {
-    QSqlQuery query = writeQuery(
-        m_database, u"UPDATE reconciliations SET sync_status='synced', server_id=? WHERE id=?"_s);
-    query.addBindValue(serverId);
-    query.addBindValue(id);
-    return query.exec();
+    return writeQuery(m_database,
+                      u"UPDATE reconciliations SET sync_status='synced', server_id=? WHERE id=?"_s,
+                      {serverId, id})
+        .exec();
 }
 
 int ReconciliationRepository::notified(int rows)

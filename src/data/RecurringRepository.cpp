@@ -96,10 +96,12 @@ QList<RecurringTransaction> RecurringRepository::listActive() const
 
 std::optional<RecurringTransaction> RecurringRepository::findById(const QString &id) const
 {
-    QSqlQuery query = readQuery(
+    QSqlQuery &query = m_find.ready(
         m_database, u"SELECT %1 FROM recurring_transactions WHERE id = ?"_s.arg(kColumns));
     query.addBindValue(id);
-    return readFirst(query, readRow);
+    std::optional<RecurringTransaction> found = readFirst(query, readRow);
+    query.finish();
+    return found;
 }
 
 QList<RecurringTransaction> RecurringRepository::listDue() const
@@ -107,8 +109,8 @@ QList<RecurringTransaction> RecurringRepository::listDue() const
     QSqlQuery query = readQuery(
         m_database,
         u"SELECT %1 FROM recurring_transactions "
-        "WHERE deleted_at IS NULL AND is_active = 1 AND next_due_date <= ?"_s.arg(kColumns));
-    query.addBindValue(isoDate(QDate::currentDate()));
+        "WHERE deleted_at IS NULL AND is_active = 1 AND next_due_date <= ?"_s.arg(kColumns),
+        {isoDate(QDate::currentDate())});
     return readAll(query, readRow);
 }
 
@@ -143,7 +145,7 @@ bool RecurringRepository::insert(const RecurringTransaction &recurring)
 bool RecurringRepository::update(const RecurringTransaction &recurring)
 {
     reportBrokenDueDate("update", recurring);
-    QSqlQuery query = writeQuery(
+    QSqlQuery &query = m_update.ready(
         m_database,
         u"UPDATE recurring_transactions SET payee=?, memo=?, amount=?, category_id=?, "
         "frequency=?, start_date=?, end_date=?, next_due_date=?, auto_post=?, is_active=?, "
@@ -158,15 +160,25 @@ bool RecurringRepository::update(const RecurringTransaction &recurring)
     return true;
 }
 
+bool RecurringRepository::deactivate(const QString &id)
+{
+    QSqlQuery query = writeQuery(m_database,
+                                 u"UPDATE recurring_transactions SET is_active = 0, "
+                                 "sync_status = 'pending', updated_at = ? WHERE id = ?"_s,
+                                 {isoStamp(currentStamp()), id});
+    if (!execWrite(query, "RecurringRepository::deactivate failed:"))
+        return false;
+    Q_EMIT recurringChanged();
+    return true;
+}
+
 bool RecurringRepository::softDelete(const QString &id)
 {
     const QString stamp = isoStamp(currentStamp());
     QSqlQuery query = writeQuery(m_database,
                                  u"UPDATE recurring_transactions SET deleted_at=?, "
-                                 "sync_status='pending', updated_at=? WHERE id=?"_s);
-    query.addBindValue(stamp);
-    query.addBindValue(stamp);
-    query.addBindValue(id);
+                                 "sync_status='pending', updated_at=? WHERE id=?"_s,
+                                 {stamp, stamp, id});
     if (!query.exec())
         return false;
     Q_EMIT recurringChanged();
@@ -179,10 +191,8 @@ int RecurringRepository::softDeleteByAccount(const QString &accountId)
     QSqlQuery query = writeQuery(m_database,
                                  u"UPDATE recurring_transactions SET deleted_at = ?, "
                                  "updated_at = ?, sync_status = 'pending' "
-                                 "WHERE account_id = ? AND deleted_at IS NULL"_s);
-    query.addBindValue(stamp);
-    query.addBindValue(stamp);
-    query.addBindValue(accountId);
+                                 "WHERE account_id = ? AND deleted_at IS NULL"_s,
+                                 {stamp, stamp, accountId});
     return notified(execBulkWrite(query, "RecurringRepository::softDeleteByAccount failed:"));
 }
 
@@ -191,10 +201,8 @@ int RecurringRepository::restoreByAccount(const QString &accountId, const QStrin
     QSqlQuery query = writeQuery(m_database,
                                  u"UPDATE recurring_transactions SET deleted_at = NULL, "
                                  "updated_at = ?, sync_status = 'pending' "
-                                 "WHERE account_id = ? AND deleted_at >= ?"_s);
-    query.addBindValue(isoStamp(currentStamp()));
-    query.addBindValue(accountId);
-    query.addBindValue(sinceStamp);
+                                 "WHERE account_id = ? AND deleted_at >= ?"_s,
+                                 {isoStamp(currentStamp()), accountId, sinceStamp});
     return notified(execBulkWrite(query, "RecurringRepository::restoreByAccount failed:"));
 }
 
@@ -208,12 +216,11 @@ int RecurringRepository::markAllPendingForResync()
 
 bool RecurringRepository::markSynced(const QString &id, const QString &serverId)
 {
-    QSqlQuery query = writeQuery(
-        m_database,
-        u"UPDATE recurring_transactions SET sync_status='synced', server_id=? WHERE id=?"_s);
-    query.addBindValue(serverId);
-    query.addBindValue(id);
-    return query.exec();
+    return writeQuery(
+               m_database,
+               u"UPDATE recurring_transactions SET sync_status='synced', server_id=? WHERE id=?"_s,
+               {serverId, id})
+        .exec();
 }
 
 int RecurringRepository::notified(int rows)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/RecurringTransaction.h"
+#include "data/RepeatedQuery.h"
 
 #include <QList>
 #include <QObject>
@@ -27,6 +28,10 @@ public:
     bool insert(const RecurringTransaction &recurring);
     bool update(const RecurringTransaction &recurring); // does not move between accounts
 
+    // Writes the switch and the stamp alone, so that it also serves a template whose dates cannot
+    // be read and thus not be written back.
+    bool deactivate(const QString &id);
+
     bool softDelete(const QString &id);
 
     // A pair: the second brings back what was deleted at the stamp or later. Both give the number
@@ -44,4 +49,6 @@ private:
     int notified(int rows); // emits if any row changed
 
     Database *m_database;
+    mutable RepeatedQuery m_find{};
+    RepeatedQuery m_update{};
 };

@@ -33,8 +33,8 @@ QList<SplitLine> SplitLineRepository::listByTransaction(const QString &transacti
     QSqlQuery query =
         readQuery(m_database,
                   u"SELECT id, transaction_id, category_id, amount, memo, created_at, updated_at "
-                  "FROM split_lines WHERE transaction_id = ?"_s);
-    query.addBindValue(transactionId);
+                  "FROM split_lines WHERE transaction_id = ?"_s,
+                  {transactionId});
     return readAll(query, readRow);
 }
 
@@ -43,20 +43,15 @@ bool SplitLineRepository::insert(const SplitLine &line)
     QSqlQuery query = writeQuery(m_database,
                                  u"INSERT INTO split_lines (id, transaction_id, category_id, "
                                  "amount, memo, created_at, updated_at) "
-                                 "VALUES (?, ?, ?, ?, ?, ?, ?)"_s);
-    query.addBindValue(line.id);
-    query.addBindValue(line.transaction_id);
-    query.addBindValue(line.category_id);
-    query.addBindValue(line.amount);
-    query.addBindValue(line.memo);
-    query.addBindValue(isoStamp(line.created_at));
-    query.addBindValue(isoStamp(line.updated_at));
+                                 "VALUES (?, ?, ?, ?, ?, ?, ?)"_s,
+                                 {line.id, line.transaction_id, line.category_id, line.amount,
+                                  line.memo, isoStamp(line.created_at), isoStamp(line.updated_at)});
     return execWrite(query, "SplitLineRepository::insert failed:");
 }
 
 bool SplitLineRepository::deleteByTransaction(const QString &transactionId)
 {
-    QSqlQuery query = writeQuery(m_database, u"DELETE FROM split_lines WHERE transaction_id = ?"_s);
-    query.addBindValue(transactionId);
-    return query.exec();
+    return writeQuery(m_database, u"DELETE FROM split_lines WHERE transaction_id = ?"_s,
+                      {transactionId})
+        .exec();
 }

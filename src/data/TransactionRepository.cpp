@@ -82,6 +82,15 @@ void bindFields(QSqlQuery &query, const Transaction &transaction)
     query.addBindValue(transaction.server_id);
 }
 
+QStringList readPayees(QSqlQuery &query)
+{
+    query.exec();
+    QStringList payees;
+    while (query.next())
+        payees << textAt(query, 0);
+    return payees;
+}
+
 // A search as it grows by one condition per filter that is set.
 struct SearchStatement
 {
@@ -137,16 +146,15 @@ QList<Transaction> TransactionRepository::listByAccount(const QString &accountId
     QSqlQuery query =
         readQuery(m_database,
                   u"SELECT %1 FROM transactions t WHERE t.account_id = ? AND t.deleted_at IS NULL "
-                  "ORDER BY t.date DESC, t.created_at DESC"_s.arg(kColumns));
-    query.addBindValue(accountId);
+                  "ORDER BY t.date DESC, t.created_at DESC"_s.arg(kColumns),
+                  {accountId});
     return readAll(query, readRow);
 }
 
 std::optional<Transaction> TransactionRepository::findById(const QString &id) const
 {
-    QSqlQuery query =
-        readQuery(m_database, u"SELECT %1 FROM transactions t WHERE t.id = ?"_s.arg(kColumns));
-    query.addBindValue(id);
+    QSqlQuery query = readQuery(
+        m_database, u"SELECT %1 FROM transactions t WHERE t.id = ?"_s.arg(kColumns), {id});
     return readFirst(query, readRow);
 }
 
@@ -163,8 +171,8 @@ QList<Transaction> TransactionRepository::listUnreconciled(const QString &accoun
     QSqlQuery query =
         readQuery(m_database,
                   u"SELECT %1 FROM transactions t WHERE t.account_id = ? AND t.deleted_at IS NULL "
-                  "AND t.reconciled = 0 ORDER BY t.date ASC, t.created_at ASC"_s.arg(kColumns));
-    query.addBindValue(accountId);
+                  "AND t.reconciled = 0 ORDER BY t.date ASC, t.created_at ASC"_s.arg(kColumns),
+                  {accountId});
     return readAll(query, readRow);
 }
 
@@ -174,8 +182,8 @@ QList<RegisterRow> TransactionRepository::registerRows(const QString &accountId)
                                 u"SELECT %1, c.name AS category_name FROM transactions t "
                                 "LEFT JOIN categories c ON t.category_id = c.id "
                                 "WHERE t.account_id = ? AND t.deleted_at IS NULL "
-                                "ORDER BY t.date ASC, t.created_at ASC"_s.arg(kColumns));
-    query.addBindValue(accountId);
+                                "ORDER BY t.date ASC, t.created_at ASC"_s.arg(kColumns),
+                                {accountId});
     query.exec();
 
     QList<RegisterRow> rows;
@@ -197,8 +205,7 @@ QList<RegisterRow> TransactionRepository::registerRows(const QString &accountId)
 qint64 TransactionRepository::startingBalanceOf(const QString &accountId) const
 {
     QSqlQuery query =
-        readQuery(m_database, u"SELECT starting_balance FROM accounts WHERE id = ?"_s);
-    query.addBindValue(accountId);
+        readQuery(m_database, u"SELECT starting_balance FROM accounts WHERE id = ?"_s, {accountId});
     query.exec();
     return query.next() ? moneyAt(query, 0) : 0;
 }
@@ -250,9 +257,7 @@ QList<RegisterRow> TransactionRepository::search(const QString &query,
                                                  const SearchFilters &filters) const
 {
     const SearchStatement statement = searchStatement(query, filters);
-    QSqlQuery select = readQuery(m_database, statement.text);
-    for (const QVariant &value : statement.values)
-        select.addBindValue(value);
+    QSqlQuery select = readQuery(m_database, statement.text, statement.values);
     return readAll(select, readRegisterRow);
 }
 
@@ -261,11 +266,16 @@ QStringList TransactionRepository::allPayees() const
     QSqlQuery query = readQuery(m_database,
                                 u"SELECT DISTINCT payee FROM transactions "
                                 "WHERE deleted_at IS NULL AND payee != '' ORDER BY payee"_s);
-    query.exec();
-    QStringList payees;
-    while (query.next())
-        payees << textAt(query, 0);
-    return payees;
+    return readPayees(query);
+}
+
+QStringList TransactionRepository::payeesOfAccount(const QString &accountId) const
+{
+    QSqlQuery query = readQuery(m_database,
+                                u"SELECT DISTINCT payee FROM transactions WHERE account_id = ? "
+                                "AND deleted_at IS NULL AND payee != '' ORDER BY payee"_s,
+                                {accountId});
+    return readPayees(query);
 }
 
 std::optional<Transaction> TransactionRepository::lastForPayee(const QString &payee,
@@ -274,15 +284,14 @@ std::optional<Transaction> TransactionRepository::lastForPayee(const QString &pa
     QSqlQuery query = readQuery(
         m_database,
         u"SELECT %1 FROM transactions t WHERE t.payee = ? AND t.account_id = ? "
-        "AND t.deleted_at IS NULL ORDER BY t.date DESC, t.created_at DESC LIMIT 1"_s.arg(kColumns));
-    query.addBindValue(payee);
-    query.addBindValue(accountId);
+        "AND t.deleted_at IS NULL ORDER BY t.date DESC, t.created_at DESC LIMIT 1"_s.arg(kColumns),
+        {payee, accountId});
     return readFirst(query, readRow);
 }
 
 bool TransactionRepository::insert(const Transaction &transaction)
 {
-    QSqlQuery query = writeQuery(
+    QSqlQuery &query = m_insert.ready(
         m_database,
         u"INSERT INTO transactions (id, account_id, date, payee, memo, amount, category_id, "
         "check_number, cleared, reconciled, transfer_link_id, transfer_dest_account_id, is_split, "
@@ -301,7 +310,7 @@ bool TransactionRepository::insert(const Transaction &transaction)
 
 bool TransactionRepository::update(const Transaction &transaction)
 {
-    QSqlQuery query = writeQuery(
+    QSqlQuery &query = m_update.ready(
         m_database,
         u"UPDATE transactions SET date=?, payee=?, memo=?, amount=?, category_id=?, "
         "check_number=?, cleared=?, reconciled=?, transfer_link_id=?, "
@@ -324,10 +333,8 @@ bool TransactionRepository::softDelete(const QString &id)
     const QString stamp = isoStamp(currentStamp());
     QSqlQuery query = writeQuery(
         m_database,
-        u"UPDATE transactions SET deleted_at=?, sync_status='pending', updated_at=? WHERE id=?"_s);
-    query.addBindValue(stamp);
-    query.addBindValue(stamp);
-    query.addBindValue(id);
+        u"UPDATE transactions SET deleted_at=?, sync_status='pending', updated_at=? WHERE id=?"_s,
+        {stamp, stamp, id});
     if (!execWrite(query, "TransactionRepository::softDelete failed:"))
         return false;
     Q_EMIT transactionsChanged(found->account_id);
@@ -340,14 +347,10 @@ int TransactionRepository::softDeleteByAccount(const QString &accountId)
     QSqlQuery query = writeQuery(
         m_database,
         u"UPDATE transactions SET deleted_at = ?, updated_at = ?, sync_status = 'pending' "
-        "WHERE account_id = ? AND deleted_at IS NULL"_s);
-    query.addBindValue(stamp);
-    query.addBindValue(stamp);
-    query.addBindValue(accountId);
-    const int rows = execBulkWrite(query, "TransactionRepository::softDeleteByAccount failed:");
-    if (rows > 0)
-        Q_EMIT transactionsChanged(accountId);
-    return rows;
+        "WHERE account_id = ? AND deleted_at IS NULL"_s,
+        {stamp, stamp, accountId});
+    return notified(execBulkWrite(query, "TransactionRepository::softDeleteByAccount failed:"),
+                    accountId);
 }
 
 int TransactionRepository::restoreByAccount(const QString &accountId, const QString &sinceStamp)
@@ -355,14 +358,10 @@ int TransactionRepository::restoreByAccount(const QString &accountId, const QStr
     QSqlQuery query = writeQuery(
         m_database,
         u"UPDATE transactions SET deleted_at = NULL, updated_at = ?, sync_status = 'pending' "
-        "WHERE account_id = ? AND deleted_at >= ?"_s);
-    query.addBindValue(isoStamp(currentStamp()));
-    query.addBindValue(accountId);
-    query.addBindValue(sinceStamp);
-    const int rows = execBulkWrite(query, "TransactionRepository::restoreByAccount failed:");
-    if (rows > 0)
-        Q_EMIT transactionsChanged(accountId);
-    return rows;
+        "WHERE account_id = ? AND deleted_at >= ?"_s,
+        {isoStamp(currentStamp()), accountId, sinceStamp});
+    return notified(execBulkWrite(query, "TransactionRepository::restoreByAccount failed:"),
+                    accountId);
 }
 
 int TransactionRepository::markAllPendingForResync()
@@ -370,17 +369,21 @@ int TransactionRepository::markAllPendingForResync()
     QSqlQuery query = writeQuery(m_database,
                                  u"UPDATE transactions SET sync_status = 'pending' "
                                  "WHERE deleted_at IS NULL AND sync_status != 'pending'"_s);
-    const int rows = execBulkWrite(query, "TransactionRepository::markAllPendingForResync failed:");
-    if (rows > 0)
-        Q_EMIT transactionsChanged(QString());
-    return rows;
+    return notified(execBulkWrite(query, "TransactionRepository::markAllPendingForResync failed:"),
+                    QString());
 }
 
 bool TransactionRepository::markSynced(const QString &id, const QString &serverId)
 {
-    QSqlQuery query = writeQuery(
-        m_database, u"UPDATE transactions SET sync_status='synced', server_id=? WHERE id=?"_s);
-    query.addBindValue(serverId);
-    query.addBindValue(id);
-    return query.exec();
+    return writeQuery(m_database,
+                      u"UPDATE transactions SET sync_status='synced', server_id=? WHERE id=?"_s,
+                      {serverId, id})
+        .exec();
+}
+
+int TransactionRepository::notified(int rows, const QString &accountId)
+{
+    if (rows > 0)
+        Q_EMIT transactionsChanged(accountId);
+    return rows;
 }

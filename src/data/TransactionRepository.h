@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/RegisterRow.h"
+#include "data/RepeatedQuery.h"
 #include "data/SearchFilters.h"
 
 #include <QHash>
@@ -35,7 +36,9 @@ public:
     // nothing, an empty one leaves the filters alone to decide.
     QList<RegisterRow> search(const QString &query, const SearchFilters &filters) const;
 
-    QStringList allPayees() const; // of all accounts, without the empty one
+    // Each once, without the empty one.
+    QStringList allPayees() const;
+    QStringList payeesOfAccount(const QString &accountId) const;
     std::optional<Transaction> lastForPayee(const QString &payee, const QString &accountId) const;
 
     // These write what the record says: the caller sets the stamps, version and sync_status.
@@ -60,6 +63,9 @@ Q_SIGNALS:
 private:
     qint64 startingBalanceOf(const QString &accountId) const;
     QHash<QString, qint64> balancesAddedUp() const;
+    int notified(int rows, const QString &accountId); // emits if any row changed
 
     Database *m_database;
+    RepeatedQuery m_insert{};
+    RepeatedQuery m_update{};
 };

@@ -6,7 +6,7 @@
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "data/CategoryRepository.h"
-#include "data/Queries.h"
+#include "data/TransactionRepository.h"
 #include "register/CategoryChoices.h"
 #include "services/RecurringSchedule.h"
 
@@ -34,19 +34,6 @@ namespace {
 constexpr double kLargestAmount = 99999999.99;
 constexpr int kMinimumWidth = 480; // pixels
 constexpr int kSymbolRole = Qt::UserRole + 1; // of an account's item: its currency symbol
-
-QStringList payeesOfAccount(const AppState &appState, const QString &accountId)
-{
-    QSqlQuery query = readQuery(appState.database(),
-                                u"SELECT DISTINCT payee FROM transactions WHERE account_id = ? "
-                                "AND deleted_at IS NULL AND payee != '' ORDER BY payee"_s);
-    query.addBindValue(accountId);
-    query.exec();
-    QStringList payees;
-    while (query.next())
-        payees << textAt(query, 0);
-    return payees;
-}
 
 QDateEdit *makeDateEdit(QWidget *parent, const QString &name, QDate date)
 {
@@ -213,8 +200,9 @@ void RecurringFormDialog::followAccount()
 void RecurringFormDialog::onAccountChanged()
 {
     const QString accountId = m_account->currentData().toString();
-    m_payees->setStringList(accountId.isEmpty() ? QStringList()
-                                                : payeesOfAccount(*m_appState, accountId));
+    m_payees->setStringList(accountId.isEmpty()
+                                ? QStringList()
+                                : m_appState->transactions()->payeesOfAccount(accountId));
     if (m_account->currentIndex() >= 0)
         m_amount->setPrefix(m_account->currentData(kSymbolRole).toString());
 }
@@ -224,7 +212,7 @@ void RecurringFormDialog::showOriginal()
     m_account->setCurrentIndex(m_account->findData(m_original.account_id)); // none if it has gone
     m_deposit->setChecked(m_original.amount >= 0);
     m_payee->setText(m_original.payee);
-    m_amount->setValue(static_cast<double>(moneyMagnitude(m_original.amount)) / 100.0);
+    m_amount->setValue(static_cast<double>(absoluteMoney(m_original.amount)) / 100.0);
     m_shownAmount = m_amount->value();
     m_memo->setText(m_original.memo);
     CategoryChoices::select(*m_category, m_original.category_id, *m_appState->categories());
@@ -264,12 +252,11 @@ RecurringTransaction RecurringFormDialog::recurring() const
 // The box counts in hundredths, whatever the currency; so does the way back.
 qint64 RecurringFormDialog::typedAmount() const
 {
-    const bool payment = m_payment->isChecked();
     // An amount that the box cannot hold shows as the box's limit; left alone, it stays as it was.
-    if (m_amount->value() == m_shownAmount && payment == (m_original.amount < 0))
-        return m_original.amount;
-    const qint64 magnitude = std::llround(m_amount->value() * 100.0);
-    return payment ? -magnitude : magnitude;
+    const qint64 amount = m_amount->value() == m_shownAmount
+        ? absoluteMoney(m_original.amount)
+        : std::llround(m_amount->value() * 100.0);
+    return m_payment->isChecked() ? negateMoney(amount) : amount;
 }
 
 void RecurringFormDialog::takeSchedule(RecurringTransaction &recurring) const

@@ -77,6 +77,7 @@ void SplitEditorDialog::buildTable(QVBoxLayout *layout)
     header->setSectionResizeMode(AmountColumn, QHeaderView::Fixed);
     header->resizeSection(AmountColumn, kAmountWidth);
     header->setSectionResizeMode(MemoColumn, QHeaderView::Stretch);
+    m_table->setWordWrap(false); // the rows are as high as their boxes, too low for two lines
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     layout->addWidget(m_table, 1);

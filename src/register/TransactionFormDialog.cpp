@@ -108,7 +108,7 @@ QHBoxLayout *TransactionFormDialog::buildType()
     m_payment->setChecked(true);
     m_deposit = new QRadioButton(tr("Deposit"), this);
     m_deposit->setObjectName(u"depositRadio"_s);
-    connect(m_payment, &QRadioButton::toggled, this, &TransactionFormDialog::keepSignOfLines);
+    connect(m_payment, &QRadioButton::toggled, this, &TransactionFormDialog::negateLines);
     auto *row = new QHBoxLayout;
     row->addWidget(m_payment);
     row->addWidget(m_deposit);
@@ -172,6 +172,9 @@ QHBoxLayout *TransactionFormDialog::buildCategory()
     connect(m_clearSplitButton, &QPushButton::clicked, this, &TransactionFormDialog::onClearSplit);
     auto *row = new QHBoxLayout;
     row->addWidget(m_category, 1);
+    // Return saves the form, also from here: the editor gives the focus back to its button.
+    m_splitButton->setAutoDefault(false);
+    m_clearSplitButton->setAutoDefault(false);
     row->addWidget(m_splitButton);
     row->addWidget(m_clearSplitButton);
     return row;
@@ -218,7 +221,7 @@ void TransactionFormDialog::updateSplitDisplay()
 }
 
 // Lines carry the sign of their transaction, also when that becomes a deposit after they were made.
-void TransactionFormDialog::keepSignOfLines()
+void TransactionFormDialog::negateLines()
 {
     for (SplitLine &line : m_splitLines)
         line.amount = negateMoney(line.amount);
@@ -250,6 +253,8 @@ void TransactionFormDialog::onOpenSplitEditor()
     if (editor.exec() != QDialog::Accepted)
         return;
     m_splitLines = editor.splitLines();
+    if (total == 0 && m_payment->isChecked()) // a total of zero has no sign
+        negateLines();
     updateSplitDisplay();
 }
 

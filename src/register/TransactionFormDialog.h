@@ -51,7 +51,7 @@ private:
     void showTransaction();
     void showAmount(qint64 amount);
     void updateSplitDisplay();
-    void keepSignOfLines();
+    void negateLines();
     qint64 typedAmount() const; // negative for a payment
     QString typedCategoryId() const;
 

@@ -34,6 +34,8 @@ ReconciliationHistoryScreen::ReconciliationHistoryScreen(AppState *appState, QWi
     applyFontRole(m_titleLabel, FontRole::Title);
     auto *subtitle = new QLabel(tr("Past reconciliations for this account."));
     subtitle->setStyleSheet(u"color: %1;"_s.arg(mutedColor().name()));
+    // A label with a style of its own does not hear of the application's font.
+    applyFontRole(subtitle, FontRole::Body);
     buildTable();
     buildEmptyLabel();
 
@@ -69,6 +71,7 @@ void ReconciliationHistoryScreen::buildEmptyLabel()
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setWordWrap(true);
     m_emptyLabel->setStyleSheet(u"color: %1; padding: 32px;"_s.arg(mutedColor().name()));
+    applyFontRole(m_emptyLabel, FontRole::Body);
     m_emptyLabel->hide();
 }
 

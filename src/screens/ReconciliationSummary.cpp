@@ -16,6 +16,8 @@ QLabel *mutedLabel(const QString &text)
 {
     auto *label = new QLabel(text);
     label->setStyleSheet(u"color: %1;"_s.arg(mutedColor().name()));
+    // A label with a style of its own does not hear of the application's font.
+    applyFontRole(label, FontRole::Body);
     return label;
 }
 

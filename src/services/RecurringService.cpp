@@ -1,7 +1,6 @@
 #include "services/RecurringService.h"
 
 #include "core/Dates.h"
-#include "data/Queries.h"
 #include "data/RecurringRepository.h"
 #include "data/SqlTransaction.h"
 #include "services/OccurrencePoster.h"
@@ -157,25 +156,14 @@ void RecurringService::quarantine(const RecurringTransaction &recurring, const c
 
 void RecurringService::deactivate(RecurringTransaction recurring)
 {
-    if (m_database && !recurring.next_due_date.isValid()) {
-        deactivateUnreadable(recurring.id);
+    // A date that cannot be read cannot be written back, and its column refuses to be empty: the
+    // template as a whole cannot be saved then, only its switch.
+    if (!recurring.next_due_date.isValid() || !recurring.start_date.isValid()) {
+        m_recurring->deactivate(recurring.id);
         return;
     }
     recurring.is_active = false;
     save(recurring);
-}
-
-// A date that cannot be read cannot be written back, and its column refuses to be empty: the
-// template as a whole cannot be saved, only its switch.
-void RecurringService::deactivateUnreadable(const QString &id)
-{
-    QSqlQuery query = writeQuery(m_database,
-                                 u"UPDATE recurring_transactions SET is_active = 0, "
-                                 "sync_status = 'pending', updated_at = ? WHERE id = ?"_s);
-    query.addBindValue(isoStamp(currentStamp()));
-    query.addBindValue(id);
-    if (execWrite(query, "RecurringService: deactivating failed:"))
-        Q_EMIT m_recurring->recurringChanged();
 }
 
 int RecurringService::pendingCount() const

@@ -54,7 +54,6 @@ private:
     int catchUp(const QString &id, OccurrencePoster &poster);
     void quarantine(const RecurringTransaction &recurring, const char *reason);
     void deactivate(RecurringTransaction recurring);
-    void deactivateUnreadable(const QString &id);
     void announcePendingCount();
     std::unique_ptr<SqlTransaction> begin() const; // null without a database
     bool commit(SqlTransaction *together) const;

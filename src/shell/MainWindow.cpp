@@ -58,8 +58,8 @@ MainWindow::MainWindow(AppState *appState, QWidget *parent)
     setStatusBar(m_statusBar);
     connectChanges();
     applyTheme();
+    postDueRecurring(); // before the list, which then sums the balances once
     populateAccountList();
-    postDueRecurring();
     watchDueCount();
     restoreInitialView();
 }
@@ -173,11 +173,9 @@ void MainWindow::connectChanges()
 void MainWindow::postDueRecurring()
 {
     const int posted = m_appState->recurringService()->processAutoPost();
-    if (posted == 0)
-        return;
-    m_statusBar->showTimedMessage(tr("Auto-posted %n recurring transaction(s)", nullptr, posted),
-                                  5000);
-    populateAccountList();
+    if (posted > 0)
+        m_statusBar->showTimedMessage(
+            tr("Auto-posted %n recurring transaction(s)", nullptr, posted), 5000);
 }
 
 void MainWindow::watchDueCount()

@@ -62,6 +62,8 @@ void MainWindow::showReconciliationWindow()
         screen->close();
     });
     connect(screen, &ReconciliationScreen::cancelled, screen, &QWidget::close);
+    // What was added, edited or deleted during a run stays, even if the run was given up.
+    connect(screen, &QObject::destroyed, m_registerScreen, &RegisterScreen::refresh);
     screen->startForAccount(account->id);
     presentWindow(screen, tr("Reconcile — %1").arg(account->name), {1100, 720});
 }

@@ -118,6 +118,8 @@ void ListsTest::payees()
         addTransaction(db, payee + u" again"_s, QDate(2024, 2, 29), 1, payee);
     }
     QCOMPARE(db.transactions.allPayees(), (QStringList{awkwardWords(), u"Zoo"_s, u"bank"_s}));
+    db.run(u"UPDATE transactions SET account_id = 'b' WHERE id = 'Zoo'"_s);
+    QCOMPARE(db.transactions.payeesOfAccount(u"b"_s), QStringList{u"Zoo"_s});
 }
 
 void ListsTest::templatesGoByDueDate()

@@ -89,6 +89,8 @@ void RefusedWritesTest::areLoggedAndSilent_data()
            [](TestDatabase &database) { return database.accounts.insert({.id = u"x"_s}); });
     addRow(accounts + u"::restore failed: \"refused "_s,
            [](TestDatabase &database) { return database.accounts.restore(u"a"_s); });
+    addRow(recurring + u"::deactivate failed: \"refused "_s,
+           [](TestDatabase &database) { return database.recurring.deactivate(u"r"_s); });
     addRow(transactions + u"::insert failed: \"FOREIGN KEY constraint failed "_s,
            [](TestDatabase &database) {
                Transaction transaction = sampleTransaction(u"x"_s);

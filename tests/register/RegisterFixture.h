@@ -1,26 +1,20 @@
 #pragma once
 
-#include "core/state/AppState.h"
-#include "data/Account.h"
 #include "data/PreferencesRepository.h"
 #include "register/RegisterColumn.h"
 #include "register/RegisterModel.h"
 #include "register/RegisterScreen.h"
 #include "register/RegisterTableView.h"
-#include "support/TestSupport.h"
+#include "support/StateFixture.h"
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <functional>
-#include <memory>
 
-// The base of a test of the register: for each test function a new one, over a database of its own
-// with the account "Checking". Its keys go the way of real ones: through the window, to whatever
-// holds the focus or the open popup.
-class RegisterFixture : public QObject
+// The base of a test of the register: for each test function a new one on a new state. Its keys go
+// the way of real ones: through the window, to whatever holds the focus or the open popup.
+class RegisterFixture : public StateFixture
 {
     Q_OBJECT
 
@@ -29,17 +23,11 @@ protected Q_SLOTS:
     void cleanup();
 
 protected:
-    AppState &state() { return *m_state; }
     RegisterScreen &screen() { return *m_screen; }
     RegisterTableView &view() { return *m_view; }
     RegisterModel &model() { return *m_model; }
 
-    void setPreference(const QString &key, bool on) { m_state->preferences()->setBool(key, on); }
-    QString addAccount(const QString &name, const Account &rest = {}); // returns the id
-    // Stores a transaction as it would have been typed long ago, in Checking if the rest names no
-    // account. Later calls count as created later.
-    Transaction addTransaction(const QString &date, const QString &payee, qint64 amount,
-                               const Transaction &rest = {});
+    void setPreference(const QString &key, bool on) { state().preferences()->setBool(key, on); }
     void openAccount(const QString &accountId = {}); // Checking if empty; shows the window
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -59,18 +47,8 @@ protected:
     QString shown(int row, int column) { return m_model->index(row, column).data().toString(); }
     QString message(); // under the grid
 
-    // The live rows of the table: "|" between the columns asked for, "; " between the rows.
-    QString stored(const QString &columns, const QString &where = QStringLiteral("1 = 1"));
-    QString run(const QString &statement); // any statement; its rows as above
-    QString categoryId(const QString &name, const QString &parent = {});
-
-    QString m_checking; // an id
-
 private:
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<AppState> m_state;
     std::unique_ptr<RegisterScreen> m_screen;
     RegisterTableView *m_view = nullptr;
     RegisterModel *m_model = nullptr;
-    QDateTime m_nextStamp;
 };

@@ -79,6 +79,10 @@ void RegisterKeysTest::shiftTabWalksBack()
         QVERIFY(editor() || column == Date);
     }
     QCOMPARE(shown(0, Memo), u"kept"_s);
+    edit(0, CheckNumber);
+    screen().moveToNextField(); // the editor left behind must not end the editing
+    QVERIFY(editor());
+    QCOMPARE(QApplication::focusWidget(), editor());
 }
 
 void RegisterKeysTest::keysThatOvertakeTheHopReachTheNextCell()
@@ -214,7 +218,11 @@ void RegisterKeysTest::completionByEnterAndTab()
     addTransaction(u"2024-01-05"_s, u"City Electric"_s, -500);
     addTransaction(u"2024-01-06"_s, u"Grocer"_s, -700);
     openAccount();
-    edit(2, column, u"lectric"_s);
+    edit(2, column);
+    // As from a list that goes late on X11. A line that hears of it drops its completer's word.
+    QFocusEvent lost(QEvent::FocusOut, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(editor(), &lost);
+    type(u"lectric"_s);
     QTRY_VERIFY(QApplication::activePopupWidget());
     if (picks)
         press(Qt::Key_Down);
@@ -329,6 +337,10 @@ void RegisterKeysTest::leavingARowDropsWhatWasTyped()
     QCOMPARE(shown(0, Payee), u"Old"_s);
     save();
     QCOMPARE(stored(u"payee, amount"_s), u"Old|-500"_s);
+    edit(0, Payee, u"Late"_s);
+    screen().startEditingRow(1);
+    goTo(1, Memo); // only now the editor hands over its text
+    QCOMPARE(shown(1, Payee), u"Payee"_s);
 }
 
 void RegisterKeysTest::clickOpensTheCell()

@@ -5,10 +5,9 @@
 #include "register/DateField.h"
 #include "register/SmartAmountField.h"
 #include "register/SplitEditorDialog.h"
-#include "screens/ScreenFixture.h"
 #include "support/DialogAnswer.h"
 #include "support/SampleRecords.h"
-#include "support/TestSupport.h"
+#include "support/StateFixture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,13 +18,12 @@
 
 using namespace Qt::StringLiterals;
 
-class TransactionFormDialogTest : public QObject
+class TransactionFormDialogTest : public StateFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup() { m_fixture.reset(); }
 
     void newTransaction_data();
     void newTransaction();
@@ -60,16 +58,13 @@ private:
                 sampleStamp()};
     }
 
-    std::unique_ptr<ScreenFixture> m_fixture;
-    QString m_checking;
     QString m_pets;
 };
 
 void TransactionFormDialogTest::init()
 {
-    m_fixture = std::make_unique<ScreenFixture>();
-    m_checking = m_fixture->addAccount(u"Checking"_s);
-    m_pets = m_fixture->categoryId(u"Pets"_s);
+    StateFixture::init();
+    m_pets = categoryId(u"Pets"_s);
 }
 
 void TransactionFormDialogTest::newTransaction_data()
@@ -96,7 +91,7 @@ void TransactionFormDialogTest::newTransaction()
     QFETCH(QString, categoryText);
     QFETCH(QString, parentCategory);
 
-    const TransactionFormDialog dialog(&m_fixture->state(), m_checking);
+    const TransactionFormDialog dialog(&state(), m_checking);
     child<QRadioButton>(dialog, type + u"Radio"_s)->setChecked(true);
     child<DateField>(dialog, u"dateField"_s)->setText(u"2/29/2024"_s);
     child<QLineEdit>(dialog, u"payeeEdit"_s)->setText(u"  "_s + awkwardWords() + u' ');
@@ -110,8 +105,8 @@ void TransactionFormDialogTest::newTransaction()
     QTEST(typed.amount, "storedAmount");
     const QString name = categoryText.split(u" > "_s).last();
     QCOMPARE(typed.category_id,
-             parentCategory == u"-"_s ? QString() : m_fixture->categoryId(name, parentCategory));
-    const TransactionFormDialog next(&m_fixture->state(), m_checking);
+             parentCategory == u"-"_s ? QString() : categoryId(name, parentCategory));
+    const TransactionFormDialog next(&state(), m_checking);
     QCOMPARE(next.transaction().date, typed.date);
 }
 
@@ -122,8 +117,8 @@ void TransactionFormDialogTest::editKeepsWhatItDoesNotShow()
     stored.is_split = false;
     stored.memo = u"it's %1"_s;
     stored.category_id = m_pets;
-    m_fixture->state().categories()->softDelete(m_pets);
-    const TransactionFormDialog dialog(&m_fixture->state(), stored);
+    state().categories()->softDelete(m_pets);
+    const TransactionFormDialog dialog(&state(), stored);
     QCOMPARE(categoryText(dialog), u"Pets"_s);
     Transaction returned = dialog.transaction();
     QVERIFY(std::exchange(returned.updated_at, stored.updated_at) > stored.updated_at);
@@ -135,29 +130,35 @@ void TransactionFormDialogTest::editKeepsWhatItDoesNotShow()
 
 void TransactionFormDialogTest::splitFollowsTheType()
 {
-    Transaction stored = m_fixture->addTransaction(m_checking, u"2024-01-05"_s, u"Market"_s, -1000,
-                                                   {.category_id = m_pets, .is_split = true});
+    Transaction stored = addTransaction(u"2024-01-05"_s, u"Market"_s, -1000,
+                                        {.category_id = m_pets, .is_split = true});
     SplitLine half = line(-500, m_pets);
     half.transaction_id = stored.id;
-    QVERIFY(m_fixture->state().splitLines()->insert(half));
-    TransactionFormDialog dialog(&m_fixture->state(), stored);
+    QVERIFY(state().splitLines()->insert(half));
+    TransactionFormDialog dialog(&state(), stored);
     auto *splitButton = child<QPushButton>(dialog, u"splitButton"_s);
     QCOMPARE(dialog.splitLines(), {half});
     QCOMPARE(categoryText(dialog), u"—Split—"_s);
     child<QRadioButton>(dialog, u"depositRadio"_s)->setChecked(true);
     QCOMPARE(dialog.splitLines().first().amount, 500);
-    const DialogAnswer answer(u"splitEditorDialog"_s, [](QDialog *editor) {
-        boxAt<QDoubleSpinBox>(*editor, 0, 1)->setValue(4.0);
-        editor->accept();
-    });
-    splitButton->click();
+    const auto divide = [splitButton] {
+        const DialogAnswer answer(u"splitEditorDialog"_s, [](QDialog *editor) {
+            boxAt<QDoubleSpinBox>(*editor, 0, 1)->setValue(4.0);
+            editor->accept();
+        });
+        splitButton->click();
+    };
+    divide();
     QCOMPARE(dialog.splitLines().first().amount, 400);
     QVERIFY(dialog.transaction().is_split);
+    child<SmartAmountField>(dialog, u"amountField"_s)->setValue(0.0);
+    child<QRadioButton>(dialog, u"paymentRadio"_s)->setChecked(true);
+    divide(); // of a total without a sign
+    QCOMPARE(dialog.splitLines().first().amount, -400);
 
     child<QPushButton>(dialog, u"clearSplitButton"_s)->click();
     QVERIFY(dialog.splitLines().isEmpty() && !dialog.transaction().is_split);
     QCOMPARE(dialog.transaction().category_id, m_pets);
-    child<SmartAmountField>(dialog, u"amountField"_s)->setValue(0.0);
     dialog.show();
     splitButton->click(); // nothing to divide
     QCOMPARE(dialog.focusWidget(), child<SmartAmountField>(dialog, u"amountField"_s));
@@ -165,8 +166,8 @@ void TransactionFormDialogTest::splitFollowsTheType()
 
 void TransactionFormDialogTest::remainingTellsTheDifference()
 {
-    m_fixture->state().categories()->softDelete(m_pets);
-    const SplitEditorDialog editor(&m_fixture->state(), -1000,
+    state().categories()->softDelete(m_pets);
+    const SplitEditorDialog editor(&state(), -1000,
                                    {line(-10, m_pets), line(0, m_pets), line(300, u"unknown"_s)});
     const auto *remaining = child<QLabel>(editor, u"remainingLabel"_s);
     const auto allot = [&](double amount) {
@@ -190,9 +191,9 @@ void TransactionFormDialogTest::remainingTellsTheDifference()
 
 void TransactionFormDialogTest::payeeBringsItsLastTransaction()
 {
-    m_fixture->addTransaction(m_checking, u"2024-02-05"_s, u"The Vet"_s, 4210,
-                              {.category_id = m_pets, .check_number = u"9"_s, .cleared = true});
-    TransactionFormDialog dialog(&m_fixture->state(), m_checking);
+    addTransaction(u"2024-02-05"_s, u"The Vet"_s, 4210,
+                   {.category_id = m_pets, .check_number = u"9"_s, .cleared = true});
+    TransactionFormDialog dialog(&state(), m_checking);
     child<QLineEdit>(dialog, u"memoEdit"_s)->setText(u"old"_s);
     dialog.onPayeeSelected(u"Stranger"_s);
     QCOMPARE(dialog.transaction().memo, u"old"_s);
@@ -214,7 +215,7 @@ void TransactionFormDialogTest::payeeBringsItsLastTransaction()
 
 void TransactionFormDialogTest::tabWalksThroughTheSplitAndOut()
 {
-    SplitEditorDialog editor(&m_fixture->state(), -1000, {});
+    SplitEditorDialog editor(&state(), -1000, {});
     editor.show();
     QVERIFY(QTest::qWaitForWindowActive(&editor));
     const auto press = [&editor](Qt::Key key) {

@@ -1,17 +1,17 @@
 #include "screens/CategoriesScreen.h"
 
-#include "core/state/AppState.h"
+#include "core/Dates.h"
 #include "data/CategoryRepository.h"
+#include "data/SplitLineRepository.h"
 #include "screens/CategoryFormDialog.h"
 #include "screens/CategoryTreeModel.h"
-#include "screens/ScreenFixture.h"
 #include "support/DialogAnswer.h"
 #include "support/SampleRecords.h"
-#include "support/TestSupport.h"
+#include "support/StateFixture.h"
 
 using namespace Qt::StringLiterals;
 
-class CategoriesScreenTest : public QObject
+class CategoriesScreenTest : public StateFixture
 {
     Q_OBJECT
 
@@ -22,6 +22,7 @@ private Q_SLOTS:
     void searchShowsParents();
     void changesKeepWhatIsExpanded_data();
     void changesKeepWhatIsExpanded();
+    void categoryInUseLeavesTheTreeAlone();
     void formKeepsWhatItDoesNotShow();
 
 private:
@@ -30,21 +31,20 @@ private:
     QModelIndex find(const QString &name) const;
     void choose(const QString &name, const QString &entry); // in the context menu
 
-    std::unique_ptr<ScreenFixture> m_fixture;
     std::unique_ptr<CategoriesScreen> m_screen;
     QTreeView *m_tree = nullptr;
 };
 
 void CategoriesScreenTest::init()
 {
-    m_fixture = std::make_unique<ScreenFixture>();
-    m_fixture->run(u"UPDATE categories SET deleted_at = created_at"_s);
+    StateFixture::init();
+    run(u"UPDATE categories SET deleted_at = created_at"_s);
     add(u"Food"_s);
     add(u"bread"_s, u"Food"_s);
     add(u"Fun %1"_s);
     add(u"zoo"_s, u"Fun %1"_s);
     add(u"apples"_s, u"Food"_s);
-    m_screen = std::make_unique<CategoriesScreen>(&m_fixture->state());
+    m_screen = std::make_unique<CategoriesScreen>(&state());
     m_tree = m_screen->findChild<QTreeView *>();
     new QAbstractItemModelTester(m_screen->findChild<CategoryTreeModel *>(), m_tree);
     new QAbstractItemModelTester(m_tree->model(), m_tree);
@@ -58,7 +58,7 @@ void CategoriesScreenTest::init()
 void CategoriesScreenTest::cleanup()
 {
     m_screen.reset();
-    m_fixture.reset();
+    StateFixture::cleanup();
 }
 
 Category CategoriesScreenTest::add(const QString &id, const QString &parentId)
@@ -69,7 +69,7 @@ Category CategoriesScreenTest::add(const QString &id, const QString &parentId)
     category.parent_id = parentId;
     category.created_at = sampleStamp();
     category.updated_at = sampleStamp();
-    if (!m_fixture->state().categories()->insert(category))
+    if (!state().categories()->insert(category))
         qFatal("category not stored");
     return category;
 }
@@ -112,8 +112,8 @@ void CategoriesScreenTest::choose(const QString &name, const QString &entry)
 
 void CategoriesScreenTest::parentsInACircleStayVisible()
 {
-    m_fixture->run(u"UPDATE categories SET parent_id = 'zoo' WHERE id = 'Fun %1'"_s);
-    m_fixture->run(u"UPDATE categories SET parent_id = 'Food' WHERE id = 'Food'"_s);
+    run(u"UPDATE categories SET parent_id = 'zoo' WHERE id = 'Fun %1'"_s);
+    run(u"UPDATE categories SET parent_id = 'Food' WHERE id = 'Food'"_s);
     m_screen->reloadTree();
     m_tree->expandAll();
     QCOMPARE(shown(), u"Food (apples bread) zoo (Fun %1)"_s);
@@ -179,11 +179,45 @@ void CategoriesScreenTest::changesKeepWhatIsExpanded()
     QCOMPARE(shown(), tree);
 }
 
+// What is filed under it stays as it is, and so do its subcategories.
+void CategoriesScreenTest::categoryInUseLeavesTheTreeAlone()
+{
+    const Transaction split =
+        addTransaction(u"2024-02-29"_s, u"Market"_s, -100,
+                       {.category_id = u"Food"_s, .sync_status = SyncStatus::Synced});
+    QVERIFY(state().splitLines()->insert(
+        {u"line"_s, split.id, u"Food"_s, -100, {}, sampleStamp(), sampleStamp()}));
+    run(u"UPDATE categories SET sync_status = 'synced'"_s);
+    const QString stamp = isoStamp(currentStamp());
+    for (const bool refused : {true, false}) {
+        run(refused ? u"CREATE TRIGGER refusing BEFORE UPDATE ON categories BEGIN "
+                      "SELECT RAISE(ABORT, 'refused'); END"_s
+                    : u"DROP TRIGGER refusing"_s);
+        const LogCatcher log;
+        const DialogAnswer answer(u"deleteCategoryQuestion"_s, [](QDialog *question) {
+            qobject_cast<QMessageBox *>(question)->button(QMessageBox::Yes)->click();
+        });
+        choose(u"Food"_s, u"&Delete"_s);
+        QCOMPARE(shown(), refused ? u"Food Fun %1"_s : u"Fun %1 apples bread"_s);
+        const QStringList logged = log.warnings().filter(u"CategoryRepository::"_s);
+        QCOMPARE(logged.size(), refused ? 1 : 0);
+        if (refused)
+            QVERIFY(logged.first().startsWith(u"CategoryRepository::softDelete failed:"_s));
+    }
+    QCOMPARE(run(u"SELECT id, ifnull(parent_id, ''), deleted_at >= '%1', sync_status, version "
+                 "FROM categories WHERE length(id) < 9 ORDER BY id"_s.arg(stamp)),
+             u"Food||1|pending|1; Fun %1|||synced|1; apples|Food||synced|1; bread|Food||synced|1; "
+             "zoo|Fun %1||synced|1"_s);
+    QCOMPARE(run(u"SELECT t.category_id, s.category_id, t.sync_status, t.version "
+                 "FROM transactions t JOIN split_lines s ON s.transaction_id = t.id"_s),
+             u"Food|Food|synced|1"_s);
+}
+
 void CategoriesScreenTest::formKeepsWhatItDoesNotShow()
 {
     Category stored = sampleCategory(); // of transfers, which the form has no item for
     stored.parent_id = u"Food"_s;
-    const CategoryFormDialog dialog(stored, m_fixture->state().categories()->listActive());
+    const CategoryFormDialog dialog(stored, state().categories()->listActive());
     QCOMPARE(dialog.findChild<QLabel *>(u"parentLabel"_s)->text(), u"Food"_s);
     Category edited = dialog.category();
     stored.category_type = CategoryType::Expense;

@@ -2,10 +2,9 @@
 
 #include "core/state/AppState.h"
 #include "data/TransactionRepository.h"
-#include "screens/ScreenFixture.h"
 #include "support/DialogAnswer.h"
 #include "support/SampleRecords.h"
-#include "support/TestSupport.h"
+#include "support/StateFixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +12,7 @@ namespace {
 const QStringList kMany = QString(u"P1 P2 P3 P4 P5 P6 P7 P8 P9"_s).split(u' ');
 }
 
-class PayeeScreenTest : public QObject
+class PayeeScreenTest : public StateFixture
 {
     Q_OBJECT
 
@@ -28,26 +27,23 @@ private:
     QStringList
     click(const QString &button); // the texts of the boxes, each answered with Yes or Ok
 
-    std::unique_ptr<ScreenFixture> m_fixture;
     std::unique_ptr<PayeeScreen> m_screen;
     QListWidget *m_list = nullptr;
 };
 
 void PayeeScreenTest::init()
 {
-    m_fixture = std::make_unique<ScreenFixture>();
-    const QString account = m_fixture->addAccount(u"Giro"_s);
+    StateFixture::init();
     for (const QString &payee : {u"Amazon"_s, u"Amazon"_s, u"amazon.de"_s, awkwardWords(), u""_s,
                                  u"Transfer to Savings"_s, u"Stubborn"_s})
-        m_fixture->addTransaction(account, u"2024-02-29"_s, payee, -100);
+        addTransaction(u"2024-02-29"_s, payee, -100);
     for (const QString &payee : kMany)
-        m_fixture->addTransaction(account, u"2024-02-29"_s, payee, -100);
-    m_fixture->run(u"UPDATE transactions SET sync_status = 'synced'"_s);
-    m_fixture->run(
-        u"UPDATE transactions SET deleted_at = created_at, memo = 'gone' WHERE rowid = 1"_s);
-    m_fixture->run(u"CREATE TRIGGER refusing BEFORE UPDATE ON transactions WHEN "
-                   "old.payee = 'Stubborn' BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
-    m_screen = std::make_unique<PayeeScreen>(&m_fixture->state());
+        addTransaction(u"2024-02-29"_s, payee, -100);
+    run(u"UPDATE transactions SET sync_status = 'synced'"_s);
+    run(u"UPDATE transactions SET deleted_at = created_at, memo = 'gone' WHERE rowid = 1"_s);
+    run(u"CREATE TRIGGER refusing BEFORE UPDATE ON transactions WHEN "
+        "old.payee = 'Stubborn' BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
+    m_screen = std::make_unique<PayeeScreen>(&state());
     m_list = m_screen->findChild<QListWidget *>();
     m_screen->refresh();
     m_screen->resize(550, 500);
@@ -60,7 +56,7 @@ void PayeeScreenTest::init()
 void PayeeScreenTest::cleanup()
 {
     m_screen.reset();
-    m_fixture.reset();
+    StateFixture::cleanup();
 }
 
 void PayeeScreenTest::select(const QStringList &payees)
@@ -132,7 +128,7 @@ void PayeeScreenTest::changesWhatIsSelected()
     QFETCH(QString, typed);
     QFETCH(QString, target);
     const QSignalSpy changed(m_screen.get(), &PayeeScreen::payeesChanged);
-    const QSignalSpy repository(m_fixture->state().transactions(),
+    const QSignalSpy repository(state().transactions(),
                                 &TransactionRepository::transactionsChanged);
     select(selected);
     m_screen->findChild<QLineEdit *>(u"renameEdit"_s)->setText(typed);
@@ -140,18 +136,16 @@ void PayeeScreenTest::changesWhatIsSelected()
     QCOMPARE(changed.size(), target.isEmpty() ? 0 : 1);
     QCOMPARE(repository.size(), 0);
     const QString leftover = u"EXISTS (SELECT 1 FROM sqlite_master WHERE name LIKE 'payees%')"_s;
-    QCOMPARE(m_fixture->stored(u"id"_s, leftover), QStringList());
+    QCOMPARE(stored(u"id"_s, leftover), QString());
     for (const QString &payee : selected) {
         const bool stays = payee == target || target.isEmpty() || payee == u"Stubborn"_s;
         QCOMPARE(m_list->findItems(payee, Qt::MatchExactly).size(), stays ? 1 : 0);
     }
-    const QStringList written = m_fixture->stored(
-        u"version, updated_at LIKE '____-__-__ __:__:__', payee"_s, u"sync_status = 'pending'"_s);
-    QCOMPARE(written.isEmpty(), target.isEmpty());
-    for (const QString &row : written)
-        QCOMPARE(row, u"1|1|"_s + target);
-    m_fixture->run(u"UPDATE transactions SET deleted_at = NULL WHERE memo = 'gone'"_s);
-    QCOMPARE(m_fixture->stored(u"payee"_s, u"memo = 'gone'"_s), QStringList{u"Amazon"_s});
+    QCOMPARE(stored(u"DISTINCT version, updated_at LIKE '____-__-__ __:__:__', payee"_s,
+                    u"sync_status = 'pending'"_s),
+             target.isEmpty() ? QString() : u"1|1|"_s + target);
+    run(u"UPDATE transactions SET deleted_at = NULL WHERE memo = 'gone'"_s);
+    QCOMPARE(stored(u"payee"_s, u"memo = 'gone'"_s), u"Amazon"_s);
 }
 
 PURSEWELL_TEST_MAIN(PayeeScreenTest)

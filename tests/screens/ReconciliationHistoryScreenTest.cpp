@@ -2,22 +2,18 @@
 
 #include "core/state/AppState.h"
 #include "data/ReconciliationRepository.h"
-#include "screens/ScreenFixture.h"
 #include "shell/theme/MoneyColors.h"
-#include "support/TestSupport.h"
+#include "support/StateFixture.h"
 
 using namespace Qt::StringLiterals;
 
-class ReconciliationHistoryScreenTest : public QObject
+class ReconciliationHistoryScreenTest : public StateFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void rowsTellWhenAndWhat_data();
     void rowsTellWhenAndWhat();
-
-private:
-    ScreenFixture m_fixture;
 };
 
 void ReconciliationHistoryScreenTest::rowsTellWhenAndWhat_data()
@@ -40,7 +36,7 @@ void ReconciliationHistoryScreenTest::rowsTellWhenAndWhat()
     QFETCH(QString, shown);
 
     const QString words = u"O'Brien \"%1\" & <b>שלום</b> 🐦"_s;
-    const QString account = m_fixture.addAccount(words, u"JPY"_s);
+    const QString account = addAccount(words, {.currency = Currency::JPY});
     Reconciliation record;
     record.id = completed;
     record.account_id = account;
@@ -48,13 +44,13 @@ void ReconciliationHistoryScreenTest::rowsTellWhenAndWhat()
     record.statement_balance = 1234;
     record.reconciled_balance = -1234;
     record.completed_at = QDateTime::currentDateTimeUtc();
-    m_fixture.state().reconciliations()->insert(record);
+    state().reconciliations()->insert(record);
     record.id += u"later statement"_s;
     record.statement_date = QDate(2024, 3, 1);
-    m_fixture.state().reconciliations()->insert(record);
-    m_fixture.run(u"UPDATE reconciliations SET completed_at = '%1'"_s.arg(completed));
+    state().reconciliations()->insert(record);
+    run(u"UPDATE reconciliations SET completed_at = '%1'"_s.arg(completed));
 
-    ReconciliationHistoryScreen screen(&m_fixture.state());
+    ReconciliationHistoryScreen screen(&state());
     screen.setAccount(account);
     const auto *title = screen.findChild<QLabel *>(u"titleLabel"_s);
     QCOMPARE(title->text(), u"Reconciliation History — "_s + words);

@@ -5,13 +5,12 @@
 #include "register/DateField.h"
 #include "register/SmartAmountField.h"
 #include "screens/ReconciliationModel.h"
-#include "screens/ScreenFixture.h"
 #include "support/DialogAnswer.h"
-#include "support/TestSupport.h"
+#include "support/StateFixture.h"
 
 using namespace Qt::StringLiterals;
 
-class ReconciliationScreenTest : public QObject
+class ReconciliationScreenTest : public StateFixture
 {
     Q_OBJECT
 
@@ -38,7 +37,6 @@ private:
         return m_screen->findChild<Type *>(name);
     }
 
-    std::unique_ptr<ScreenFixture> m_fixture;
     std::unique_ptr<ReconciliationScreen> m_screen;
     ReconciliationModel *m_model = nullptr;
     QTableView *m_table = nullptr;
@@ -47,9 +45,9 @@ private:
 
 void ReconciliationScreenTest::init()
 {
-    m_fixture = std::make_unique<ScreenFixture>();
-    m_account = m_fixture->addAccount(u"Giro"_s, u"EUR"_s);
-    m_screen = std::make_unique<ReconciliationScreen>(&m_fixture->state());
+    StateFixture::init();
+    m_account = addAccount(u"Giro"_s, {.currency = Currency::EUR});
+    m_screen = std::make_unique<ReconciliationScreen>(&state());
     m_model = m_screen->findChild<ReconciliationModel *>();
     m_table = find<QTableView>(u"transactionTable"_s);
     new QAbstractItemModelTester(m_model, m_model);
@@ -58,18 +56,19 @@ void ReconciliationScreenTest::init()
 void ReconciliationScreenTest::cleanup()
 {
     m_screen.reset();
-    m_fixture.reset();
+    StateFixture::cleanup();
 }
 
 Transaction ReconciliationScreenTest::add(const QString &date, qint64 amount, bool cleared,
                                           bool reconciled)
 {
     Transaction rest;
+    rest.account_id = m_account;
     rest.cleared = cleared;
     rest.reconciled = reconciled;
     rest.version = 3;
     rest.sync_status = SyncStatus::Synced;
-    return m_fixture->addTransaction(m_account, date, u"50% <b>Söhne</b>"_s, amount, rest);
+    return addTransaction(date, u"50% <b>Söhne</b>"_s, amount, rest);
 }
 
 void ReconciliationScreenTest::start()
@@ -134,12 +133,10 @@ void ReconciliationScreenTest::offersTheNextStatementDate()
     if (!reconciled.isEmpty()) {
         add(u"2020-01-01"_s, 100, true, true);
         add(u"2021-01-01"_s, 100, true, true);
-        m_fixture->run(
-            u"UPDATE transactions SET date = '%1' WHERE date = '2021-01-01'"_s.arg(reconciled));
+        run(u"UPDATE transactions SET date = '%1' WHERE date = '2021-01-01'"_s.arg(reconciled));
     }
     if (!statement.isEmpty())
-        m_fixture->run(
-            u"INSERT INTO reconciliations (id, account_id, statement_date, "
+        run(u"INSERT INTO reconciliations (id, account_id, statement_date, "
             "statement_balance, reconciled_balance, completed_at, created_at, "
             "updated_at) VALUES ('n', '%1', '%2', 0, 0, '', '', '')"_s.arg(m_account, statement));
     auto *field = find<DateField>(u"statementDate"_s);
@@ -173,7 +170,7 @@ void ReconciliationScreenTest::gateIsExactToTheCent()
     QFETCH(QString, typed);
     QFETCH(QString, difference);
 
-    m_fixture->run(u"UPDATE accounts SET starting_balance = %1"_s.arg(settled - 40));
+    run(u"UPDATE accounts SET starting_balance = %1"_s.arg(settled - 40));
     add(u"2026-01-01"_s, 40, true, true);
     add(u"2026-01-02"_s, 77777, false); // not on the statement
     for (const qint64 amount : std::as_const(ticked))
@@ -232,10 +229,10 @@ void ReconciliationScreenTest::ticksSurviveAddEditAndDelete()
 {
     add(u"2026-01-02"_s, 100, true);
     const Transaction transfer = add(u"2026-01-03"_s, 200, false);
-    const Transaction farSide = m_fixture->addTransaction(m_fixture->addAccount(u"Other"_s),
-                                                          u"2026-01-05"_s, u"Transfer"_s, -200);
-    m_fixture->run(u"UPDATE transactions SET transfer_link_id = '%1' WHERE id = '%2'"_s.arg(
-        farSide.id, transfer.id));
+    const Transaction farSide = addTransaction(u"2026-01-05"_s, u"Transfer"_s, -200,
+                                               {.account_id = addAccount(u"Other"_s)});
+    run(u"UPDATE transactions SET transfer_link_id = '%1' WHERE id = '%2'"_s.arg(farSide.id,
+                                                                                 transfer.id));
     add(u"2026-01-04"_s, 400, false);
     start();
     m_table->setFocus();
@@ -277,15 +274,15 @@ void ReconciliationScreenTest::ticksSurviveAddEditAndDelete()
     QVERIFY(deleted.wasAsked());
     QCOMPARE(ticks(), u"x--"_s);
     QCOMPARE(m_table->currentIndex().row(), 2);
-    QCOMPARE(m_fixture->stored(u"amount, cleared, reconciled"_s), // the far side stays
-             (QStringList{u"150|0|0"_s, u"-800|0|0"_s, u"100|1|0"_s, u"-200|0|0"_s}));
+    QCOMPARE(stored(u"amount, cleared, reconciled"_s), // the far side stays
+             u"150|0|0; -800|0|0; 100|1|0; -200|0|0"_s);
 }
 
 void ReconciliationScreenTest::finishWritesWhatIsTicked()
 {
-    m_fixture->run(u"UPDATE accounts SET starting_balance = 1000"_s);
-    m_fixture->run(u"CREATE TRIGGER t BEFORE UPDATE ON transactions WHEN old.amount = 100 "
-                   "BEGIN SELECT raise(ABORT, 'refused'); END"_s);
+    run(u"UPDATE accounts SET starting_balance = 1000"_s);
+    run(u"CREATE TRIGGER t BEFORE UPDATE ON transactions WHEN old.amount = 100 "
+        "BEGIN SELECT raise(ABORT, 'refused'); END"_s);
     add(u"2025-12-01"_s, 50, true, true);
     add(u"2026-01-02"_s, 100, true);
     add(u"2026-01-03"_s, -300, false);
@@ -299,7 +296,7 @@ void ReconciliationScreenTest::finishWritesWhatIsTicked()
         figures(),
         (QStringList{u"€10.50"_s, u"€1.00"_s, u"-€3.00"_s, u"€8.50"_s, u"€8.50"_s, u"€0.00"_s}));
     const QString fields = u"amount, cleared, reconciled, version, sync_status"_s;
-    QCOMPARE(m_fixture->stored(fields).at(2), u"-300|0|0|3|synced"_s); // nothing yet
+    QCOMPARE(stored(fields).section(u"; "_s, 2, 2), u"-300|0|0|3|synced"_s); // nothing yet
 
     const LogCatcher log;
     QSignalSpy completed(m_screen.get(), &ReconciliationScreen::reconciliationCompleted);
@@ -312,16 +309,15 @@ void ReconciliationScreenTest::finishWritesWhatIsTicked()
     QCOMPARE(completed.size(), 1);
     // A row that the database refuses does not keep the others back.
     QCOMPARE(log.warnings().filter(u"TransactionRepository::update failed:"_s).size(), 1);
-    QCOMPARE(m_fixture->stored(fields),
-             (QStringList{u"50|1|1|3|synced"_s, u"100|1|0|3|synced"_s, u"-300|1|1|3|pending"_s,
-                          u"400|1|0|3|synced"_s}));
-    const auto history = m_fixture->state().reconciliations()->listByAccount(m_account);
+    QCOMPARE(stored(fields),
+             u"50|1|1|3|synced; 100|1|0|3|synced; -300|1|1|3|pending; 400|1|0|3|synced"_s);
+    const auto history = state().reconciliations()->listByAccount(m_account);
     QCOMPARE(history.size(), 1);
     QCOMPARE(history.first().statement_date, QDate(2026, 1, 31));
     QCOMPARE(history.first().statement_balance, 850);
     QCOMPARE(history.first().reconciled_balance, 850);
-    QCOMPARE(m_fixture->stored(u"updated_at"_s, u"amount = -300"_s),
-             QStringList{history.first().completed_at.toString(Qt::ISODate)});
+    QCOMPARE(stored(u"updated_at"_s, u"amount = -300"_s),
+             history.first().completed_at.toString(Qt::ISODate));
 }
 
 PURSEWELL_TEST_MAIN(ReconciliationScreenTest)

@@ -2,13 +2,13 @@
 
 #include "core/state/AppState.h"
 #include "data/RecurringRepository.h"
-#include "screens/ScreenFixture.h"
+#include "support/DialogAnswer.h"
 #include "support/SampleRecords.h"
-#include "support/TestSupport.h"
+#include "support/StateFixture.h"
 
 using namespace Qt::StringLiterals;
 
-class RecurringScreenTest : public QObject
+class RecurringScreenTest : public StateFixture
 {
     Q_OBJECT
 
@@ -19,18 +19,18 @@ private Q_SLOTS:
     void rowTellsWhatIsDue();
     void menuActsOnItsRow_data();
     void menuActsOnItsRow();
+    void editMendsABrokenTemplate();
 
 private:
     void add(const QString &payee, int days, bool active = true); // due in so many days
     QString cell(int row, int column, int role = Qt::DisplayRole) const;
     QStringList openMenu(int row, const QString &choice = {}); // its enabled entries
     QString dueText() const { return m_screen->findChild<QLabel *>(u"dueLabel"_s)->text(); }
-    RecurringTransaction stored(const QString &id) const
+    RecurringTransaction templateOf(const QString &id) const
     {
-        return m_fixture->state().recurring()->findById(id).value();
+        return state().recurring()->findById(id).value();
     }
 
-    std::unique_ptr<ScreenFixture> m_fixture;
     std::unique_ptr<RecurringScreen> m_screen;
     QTableView *m_table = nullptr;
     QString m_account;
@@ -39,9 +39,9 @@ private:
 
 void RecurringScreenTest::init()
 {
-    m_fixture = std::make_unique<ScreenFixture>();
-    m_account = m_fixture->addAccount(u"Giro \"%1\""_s);
-    m_screen = std::make_unique<RecurringScreen>(&m_fixture->state());
+    StateFixture::init();
+    m_account = addAccount(u"Giro \"%1\""_s);
+    m_screen = std::make_unique<RecurringScreen>(&state());
     m_table = m_screen->findChild<QTableView *>();
     new QAbstractItemModelTester(m_table->model(), m_table);
     m_screen->resize(800, 500);
@@ -53,7 +53,7 @@ void RecurringScreenTest::init()
 void RecurringScreenTest::cleanup()
 {
     m_screen.reset();
-    m_fixture.reset();
+    StateFixture::cleanup();
 }
 
 void RecurringScreenTest::add(const QString &payee, int days, bool active)
@@ -67,7 +67,7 @@ void RecurringScreenTest::add(const QString &payee, int days, bool active)
                                          .is_active = active,
                                          .created_at = sampleStamp(),
                                          .updated_at = sampleStamp()};
-    QVERIFY(m_fixture->state().recurring()->insert(recurring));
+    QVERIFY(state().recurring()->insert(recurring));
     m_screen->refresh();
 }
 
@@ -141,15 +141,33 @@ void RecurringScreenTest::menuActsOnItsRow()
     add(u"Earlier"_s, -1);
     add(u"Rent"_s, 0);
     if (refused)
-        m_fixture->run(u"CREATE TRIGGER refusing BEFORE INSERT ON transactions BEGIN "
-                       "SELECT RAISE(ABORT, 'refused'); END"_s);
+        run(u"CREATE TRIGGER refusing BEFORE INSERT ON transactions BEGIN "
+            "SELECT RAISE(ABORT, 'refused'); END"_s);
     const QSignalSpy changed(m_screen.get(), &RecurringScreen::transactionsChanged);
     openMenu(1, entry);
     QTEST(int(changed.size()), "signalled");
-    QTEST(int(m_fixture->stored(u"id"_s, u"recurring_id = 'Rent'"_s).size()), "posted");
-    QCOMPARE(stored(u"Rent"_s).next_due_date, movesOn ? m_today.addMonths(1) : m_today);
+    QTEST(stored(u"count(*)"_s, u"recurring_id = 'Rent'"_s).toInt(), "posted");
+    QCOMPARE(templateOf(u"Rent"_s).next_due_date, movesOn ? m_today.addMonths(1) : m_today);
     QCOMPARE(dueText(), movesOn ? u"(1 due)"_s : u"(2 due)"_s);
     QCOMPARE(cell(m_table->currentIndex().row(), 1), u"Rent"_s);
+}
+
+void RecurringScreenTest::editMendsABrokenTemplate()
+{
+    add(u"Rent"_s, 0, false);
+    run(u"UPDATE recurring_transactions SET next_due_date = 'soon'"_s);
+    m_screen->refresh();
+    const DialogAnswer answer(u"recurringFormDialog"_s, [](QDialog *dialog) {
+        dialog->findChild<QCheckBox *>(u"activeCheck"_s)->setChecked(true);
+        dialog->accept();
+    });
+    const QPoint row = m_table->visualRect(m_table->model()->index(0, 1)).center();
+    QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, {}, row);
+    QVERIFY(answer.wasAsked());
+    QCOMPARE(run(u"SELECT is_active, start_date = next_due_date FROM recurring_transactions"_s),
+             u"1|1"_s);
+    QCOMPARE(dueText(), u"(1 due)"_s);
 }
 
 PURSEWELL_TEST_MAIN(RecurringScreenTest)

@@ -1,13 +1,8 @@
-add_library(pursewell_screen_fixture STATIC
-  screens/ScreenFixture.cpp screens/ScreenFixture.h)
-target_link_libraries(pursewell_screen_fixture PUBLIC pursewell_register pursewell_test_support)
-target_precompile_headers(pursewell_screen_fixture REUSE_FROM pursewell_test_support)
-
 pursewell_test(CategoriesScreenTest LABEL widget
-  USES pursewell_screens pursewell_screen_fixture pursewell_test_database)
+  USES pursewell_screens pursewell_state_fixture pursewell_test_database)
 pursewell_test(PayeeScreenTest LABEL widget
-  USES pursewell_screens pursewell_screen_fixture pursewell_test_database)
-pursewell_test(ReconciliationHistoryScreenTest LABEL widget USES pursewell_screens pursewell_screen_fixture)
-pursewell_test(ReconciliationScreenTest LABEL widget USES pursewell_screens pursewell_screen_fixture)
+  USES pursewell_screens pursewell_state_fixture pursewell_test_database)
+pursewell_test(ReconciliationHistoryScreenTest LABEL widget USES pursewell_screens pursewell_state_fixture)
+pursewell_test(ReconciliationScreenTest LABEL widget USES pursewell_screens pursewell_state_fixture)
 pursewell_test(RecurringScreenTest LABEL widget
-  USES pursewell_screens pursewell_screen_fixture pursewell_test_database)
+  USES pursewell_screens pursewell_state_fixture pursewell_test_database)

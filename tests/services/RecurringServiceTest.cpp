@@ -23,6 +23,12 @@ struct Household : TestDatabase
 {
     Household() { addSampleOwners(); }
     int posted() { return value(u"SELECT COUNT(*) FROM transactions"_s).toInt(); }
+    QString postings() // "account/category", of a transfer ">other account"
+    {
+        const QString side = u"account_id || '/' || category_id || "
+                             "ifnull('>' || nullif(transfer_dest_account_id, ''), '')"_s;
+        return value(u"SELECT group_concat(%1, ' ') FROM transactions"_s.arg(side)).toString();
+    }
     QString templateState()
     {
         const QString state = u"is_active || ' ' || next_due_date"_s;
@@ -51,6 +57,8 @@ private Q_SLOTS:
     void trouble();
     void catchesUp_data();
     void catchesUp();
+    void localDayDecides_data();
+    void localDayDecides();
     void tickIsStoredAtOnce();
     void allDueAreConfirmedOnce();
 };
@@ -85,8 +93,9 @@ void RecurringServiceTest::transferGetsBothSidesOnce()
 void RecurringServiceTest::trouble_data()
 {
     QTest::addColumn<QString>("harm"); // done to template "r" or its accounts
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("outcome"); // result, transactions, is_active, next_due_date
+    QTest::addColumn<QString>("actions");
+    // Results added up, postings, is_active, next_due_date; "*": to be synchronized.
+    QTest::addColumn<QString>("outcome");
     QTest::addColumn<QString>("warning");
     const auto row = [](const char *name, auto... columns) {
         (QTest::newRow(name) << ... << QString(columns));
@@ -96,36 +105,43 @@ void RecurringServiceTest::trouble_data()
     const QString refused = u"RecurringService::confirm refusing record with broken date: \"r\""_s;
     const QString reason = u"— auto-deactivating. Reason: broken next_due_date nextDueDate="_s;
     const QString insert = u"TransactionRepository::insert failed:"_s;
-    row("old", set + u"next_due_date='1999-12-31'"_s, u"tick"_s, u"0 0 0 1999-12-31"_s, reason);
-    row("old, confirmed", old, u"confirm"_s, u"0 0 0 1999-12-31"_s, refused);
-    row("old, skipped", old, u"skip"_s, u"1 0 1 2000-01-31"_s, u""_s);
-    row("old, not automatic", old, u"tick"_s, u"0 0 1 1999-12-31"_s, u""_s);
-    row("no date", set + u"next_due_date='2023-02-30'"_s, u"tick"_s, u"0 0 0 2023-02-30"_s, reason);
-    row("no date, confirmed", set + u"next_due_date=''"_s, u"confirm"_s, u"0 0 0 "_s, refused);
-    row("currencies differ",
-        u"UPDATE accounts SET currency='EUR' WHERE id='b'\n"_s + set
-            + u"transfer_dest_account_id='b'"_s,
-        u"tick"_s, u"0 1 1 2024-01-31"_s,
+    row("old", set + u"next_due_date='1999-12-31'"_s, u"tick"_s, u"0  0 1999-12-31*"_s, reason);
+    row("old, confirmed", old, u"confirm"_s, u"0  0 1999-12-31*"_s, refused);
+    row("old, skipped", old, u"skip"_s, u"1  1 2000-01-31*"_s, u""_s);
+    row("old, not automatic", old, u"tick"_s, u"0  1 1999-12-31"_s, u""_s);
+    row("no date", set + u"next_due_date='2023-02-30'"_s, u"tick"_s, u"0  0 2023-02-30*"_s, reason);
+    row("no date, confirmed", set + u"next_due_date=''"_s, u"confirm"_s, u"0  0 *"_s, refused);
+    row("no date, skipped", set + u"next_due_date=''"_s, u"skip"_s, u"0  1 "_s,
+        u"RecurringRepository::update failed:"_s);
+    row("no date at all", set + u"start_date='', next_due_date='1999-12-31'"_s, u"tick"_s,
+        u"0  0 1999-12-31*"_s, reason);
+    const QString currencies = u"UPDATE accounts SET currency='EUR' WHERE id='b'\n"_s + set
+        + u"transfer_dest_account_id='b'"_s;
+    row("currencies differ", currencies, u"tick"_s, u"0 a/c 1 2024-01-31"_s,
         u"skipping transfer post for \"r\" — source and destination currencies differ"_s);
+    row("currencies differ, again", currencies, u"tick confirm"_s, u"0 a/c 1 2024-01-31"_s, insert);
+    row("currencies differ, skipped", currencies, u"tick skip"_s, u"1 a/c 1 2024-02-29*"_s,
+        u"currencies differ"_s);
     row("destination gone", set + u"transfer_dest_account_id='gone'"_s, u"tick"_s,
-        u"1 1 1 2024-02-29"_s, insert);
-    row("account gone", u"PRAGMA foreign_keys=OFF\nDELETE FROM accounts\nPRAGMA foreign_keys=ON"_s,
-        u"tick"_s, u"0 0 1 2024-01-31"_s, insert);
-    row("template gone", u"DELETE FROM recurring_transactions"_s, u"skip"_s, u"0 0 "_s, u""_s);
-    row("template refused",
-        u"CREATE TRIGGER x BEFORE UPDATE ON recurring_transactions "
-        "BEGIN SELECT RAISE(ABORT, ''); END"_s,
-        u"tick"_s, u"0 1 1 2024-01-31"_s, u"RecurringRepository::update failed:"_s);
+        u"1 a/c>gone 1 2024-02-29*"_s, insert);
+    const QString gone = u"PRAGMA foreign_keys=OFF\nDELETE FROM %1\nPRAGMA foreign_keys=ON"_s;
+    row("account gone", gone.arg(u"accounts"_s), u"tick"_s, u"0  1 2024-01-31"_s, insert);
+    row("category gone", gone.arg(u"categories"_s), u"tick"_s, u"0  1 2024-01-31"_s, insert);
+    row("category deleted in use", u"UPDATE categories SET deleted_at=created_at"_s, u"tick"_s,
+        u"1 a/c 1 2024-02-29*"_s, u""_s);
+    row("template gone", u"DELETE FROM recurring_transactions"_s, u"skip"_s, u"0  "_s, u""_s);
+    row("template refused", set + u"start_date=''"_s, u"tick"_s, u"0 a/c 1 2024-01-31"_s,
+        u"RecurringRepository::update failed:"_s);
     row("date breaks on the way",
         u"CREATE TRIGGER x AFTER UPDATE ON recurring_transactions BEGIN "
         "UPDATE recurring_transactions SET next_due_date='1999-01-31'; END"_s,
-        u"tick"_s, u"1 1 0 1999-01-31"_s, u"Reason: advanced to broken date during catchup"_s);
+        u"tick"_s, u"1 a/c 0 1999-01-31*"_s, u"Reason: advanced to broken date during catchup"_s);
 }
 
 void RecurringServiceTest::trouble()
 {
     Household home;
-    QFETCH(QString, action);
+    QFETCH(QString, actions);
     QFETCH(QString, warning);
     QFETCH(QString, harm);
     home.recurring.insert(rent());
@@ -134,11 +150,15 @@ void RecurringServiceTest::trouble()
 
     const LogCatcher log;
     const QSignalSpy pending(&home.service, &RecurringService::pendingCountChanged);
-    const int result = action == u"tick"_s ? home.service.processAutoPost()
-        : action == u"skip"_s              ? int(home.service.skip(rent()))
-                                           : int(home.service.confirm(rent()));
-    QTEST(u"%1 %2 %3"_s.arg(QString::number(result), QString::number(home.posted()),
-                            home.templateState()),
+    int result = 0;
+    for (const QString &action : actions.split(u' ')) {
+        result += action == u"tick"_s ? home.service.processAutoPost()
+            : action == u"skip"_s     ? int(home.service.skip(rent()))
+                                      : int(home.service.confirm(rent()));
+    }
+    const bool isPending = !home.recurring.listPending().isEmpty();
+    QTEST(u"%1 %2 %3%4"_s.arg(QString::number(result), home.postings(), home.templateState(),
+                              isPending ? u"*"_s : QString()),
           "outcome");
     QVERIFY2(warned(warning), qPrintable(LogCatcher::warnings().join(u'\n')));
     QCOMPARE(LogCatcher::warnings().isEmpty(), warning.isEmpty());
@@ -160,7 +180,8 @@ void RecurringServiceTest::catchesUp_data()
     row("limit", u"2024-12-31 2024-01-01"_s, u"daily"_s, 366, u"0 2025-01-01"_s);
     row("ten years", u"2024-03-05 2014-03-05"_s, u"weekly"_s, 366, u"0 2021-03-10"_s);
     row("month ends", u"2024-04-29 2023-10-31"_s, u"monthly"_s, 7, u"1 2024-05-29"_s);
-    row("the clock changes", u"2024-03-10 2024-02-25"_s, u"biweekly"_s, 2, u"1 2024-03-24"_s);
+    row("no midnight today", u"2018-11-04 2018-11-03"_s, u"daily"_s, 2, u"1 2018-11-05"_s);
+    row("two midnights", u"2018-02-18 2018-02-04"_s, u"biweekly"_s, 2, u"1 2018-03-04"_s);
     row("quarters", u"2024-03-01 2023-08-31"_s, u"quarterly"_s, 3, u"1 2024-05-29"_s);
     row("half years", u"2024-03-01 2023-08-31"_s, u"semi_annual"_s, 2, u"1 2024-08-29"_s);
     row("leap day", u"2026-02-27 2024-02-29"_s, u"annual"_s, 2, u"1 2026-02-28"_s);
@@ -170,6 +191,7 @@ void RecurringServiceTest::catchesUp_data()
 
 void RecurringServiceTest::catchesUp()
 {
+    const ZoneChange zone("America/Sao_Paulo"); // its clocks changed at midnight
     Household home;
     QFETCH(QString, dates);
     QFETCH(QString, frequency);
@@ -188,6 +210,29 @@ void RecurringServiceTest::catchesUp()
     QCOMPARE(home.value(u"SELECT COUNT(DISTINCT date) FROM transactions"_s).toInt(), count);
     QTEST(home.templateState(), "state");
     QCOMPARE(warned(u"Reason: hit catchup cap in single tick nextDueDate="_s), count >= 365);
+}
+
+void RecurringServiceTest::localDayDecides_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<int>("hours"); // ahead of UTC: at no moment do both have its date
+    QTest::newRow("far east") << QByteArray("Pacific/Kiritimati") << 14;
+    QTest::newRow("far west") << QByteArray("Etc/GMT+12") << -12;
+}
+
+void RecurringServiceTest::localDayDecides()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(int, hours);
+    const ZoneChange change(zone);
+    Household home;
+    RecurringService service(&home.recurring, &home.transactions, &home.accounts);
+    RecurringTransaction recurring = rent();
+    recurring.frequency = Frequency::Daily;
+    recurring.next_due_date = QDateTime::currentDateTimeUtc().addSecs(hours * 3600).date();
+    home.recurring.insert(recurring);
+    QCOMPARE(service.processAutoPost(), 1);
+    QCOMPARE(service.pendingCount(), 0);
 }
 
 void RecurringServiceTest::tickIsStoredAtOnce()

@@ -1,5 +1,6 @@
 #include "services/SampleDataService.h"
 
+#include "core/Language.h"
 #include "services/CategoryService.h"
 #include "support/SampleRecords.h"
 #include "support/TestDatabase.h"
@@ -9,16 +10,30 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A language in which every text is the English one in brackets.
-class BracketLanguage : public QTranslator
+// Stands in for a language that has no catalogue yet. Its words tell who asked for them.
+class MadeUpLanguage : public QTranslator
 {
 public:
-    QString translate(const char *, const char *sourceText, const char *, int) const override
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
     {
-        return u"[%1]"_s.arg(QString::fromUtf8(sourceText));
+        return u"%1 «%2»"_s.arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
     }
     bool isEmpty() const override { return false; }
 };
+
+// Of each row in turn: which of the seeded categories it has.
+QString categoriesOfRows()
+{
+    TestDatabase database;
+    CategoryService(&database.categories).seedDefaults();
+    SampleDataService(database.get()).loadSampleData();
+    return database
+        .value(
+            u"SELECT group_concat(ifnull((SELECT rowid FROM categories WHERE id = category_id), "
+            "'-')) FROM (SELECT category_id, 1 AS kind, rowid AS row FROM transactions UNION ALL "
+            "SELECT category_id, 2, rowid FROM recurring_transactions ORDER BY kind, row)"_s)
+        .toString();
+}
 
 } // namespace
 
@@ -27,53 +42,59 @@ class SampleDataServiceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void translatedRowsFindTheirCategories();
+    void rowsFindTheirCategories_data();
+    void rowsFindTheirCategories();
     void householdLooksRecent();
     void clearingLeavesTheRest();
 };
 
-void SampleDataServiceTest::translatedRowsFindTheirCategories()
+void SampleDataServiceTest::rowsFindTheirCategories_data()
 {
-    TestDatabase database;
-    BracketLanguage language;
-    QCoreApplication::installTranslator(&language);
-    CategoryService(&database.categories).seedDefaults();
-    SampleDataService(database.get()).loadSampleData();
-    const auto list = [&](const QString &memos) {
-        return database
-            .value(u"SELECT group_concat(memo, '; ') FROM (%1 ORDER BY memo)"_s.arg(memos))
-            .toString();
-    };
-    QCOMPARE(list(u"SELECT DISTINCT memo FROM transactions WHERE category_id IS NULL"_s),
-             u"[Credit card payment]; [Monthly savings]"_s);
-    QCOMPARE(list(u"SELECT memo FROM transactions WHERE category_id = (SELECT c.id FROM categories "
-                  "c JOIN categories p ON p.id = c.parent_id "
-                  "WHERE p.name = '[Insurance]' AND c.name = '[Auto]')"_s),
-             u"[Auto insurance]"_s);
+    QTest::addColumn<QString>("language");
+    for (const QString &language : Language::supported())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void SampleDataServiceTest::rowsFindTheirCategories()
+{
+    QFETCH(QString, language);
+    const QString inSourceLanguage = categoriesOfRows();
+    QTranslator catalogue;
+    MadeUpLanguage madeUp;
+    const bool loaded =
+        catalogue.load(u":/i18n/pursewell_%1.qm"_s.arg(language), u""_s, u""_s, u""_s);
+    QVERIFY(loaded || language != u"en"_s); // else the catalogues are not where they are looked for
+    QCoreApplication::installTranslator(loaded ? &catalogue : &madeUp);
+    QCOMPARE(categoriesOfRows(), inSourceLanguage);
 }
 
 void SampleDataServiceTest::householdLooksRecent()
 {
     TestDatabase database;
     SampleDataService service(database.get(), nullptr, [] { return QDate(2024, 3, 1); });
+    CategoryService(&database.categories).seedDefaults();
     service.loadSampleData();
     const auto text = [&](const QString &statement) {
         return database.value(statement).toString();
     };
     QCOMPARE(text(u"SELECT group_concat(row, '; ') FROM (SELECT substr(account_id, 13) || ' ' || "
                   "COUNT(*) || ' ' || SUM(amount) || ' ' || COUNT(transfer_link_id) || ' ' || "
-                  "SUM(cleared) || ' ' || SUM(reconciled) "
+                  "SUM(cleared) || ' ' || SUM(reconciled) || ' ' || COUNT(category_id) "
                   "|| ' ' || MIN(date) || ' ' || MAX(date) AS row "
                   "FROM transactions GROUP BY account_id)"_s),
-             u"checking 33 875960 2 26 16 2024-01-01 2024-03-01; "
-             "savings 4 101695 2 3 0 2024-01-16 2024-03-01; "
-             "visa 12 -3839 0 7 0 2024-01-06 2024-02-28"_s);
+             u"checking 33 875960 2 26 16 31 2024-01-01 2024-03-01; "
+             "savings 4 101695 2 3 0 2 2024-01-16 2024-03-01; "
+             "visa 12 -3839 0 7 0 10 2024-01-06 2024-02-28"_s);
     QCOMPARE(text(u"SELECT group_concat(row, '; ') FROM (SELECT memo || ' ' || amount || ' ' || "
                   "frequency || ' ' || start_date || ' ' || next_due_date AS row "
                   "FROM recurring_transactions ORDER BY memo)"_s),
              u"Biweekly paycheck 285000 biweekly 2024-01-01 2024-03-09; "
              "Monthly rent -145000 monthly 2024-01-01 2024-03-02; "
              "Monthly savings -50000 monthly 2024-01-01 2024-03-02"_s);
+    QCOMPARE(text(u"SELECT t.memo FROM transactions t JOIN categories c ON c.id = t.category_id "
+                  "JOIN categories p ON p.id = c.parent_id "
+                  "WHERE p.name = 'Insurance' AND c.name = 'Auto'"_s),
+             u"Auto insurance"_s);
     // Two pairs, with the accounts crosswise.
     QCOMPARE(text(u"SELECT COUNT(*) FROM transactions a JOIN transactions b ON "
                   "a.transfer_link_id = b.transfer_link_id AND a.date = b.date "

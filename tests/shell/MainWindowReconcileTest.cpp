@@ -2,6 +2,7 @@
 #include "screens/ReconciliationHistoryScreen.h"
 #include "screens/ReconciliationScreen.h"
 #include "shell/ShellFixture.h"
+#include "shell/theme/ThemeManager.h"
 #include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
@@ -13,6 +14,7 @@ class MainWindowReconcileTest : public QObject
 private Q_SLOTS:
     void everyRunHasItsOwnWindow();
     void historyWindowIsReused();
+    void labelsFollowTheFontScale();
 };
 
 void MainWindowReconcileTest::everyRunHasItsOwnWindow()
@@ -62,6 +64,26 @@ void MainWindowReconcileTest::historyWindowIsReused()
     QCOMPARE(open().first()->size(), QSize(800, 300)); // as it was left
     QCOMPARE(open().first()->findChild<QLabel *>(u"titleLabel"_s)->text(),
              u"Reconciliation History — Two"_s);
+}
+
+void MainWindowReconcileTest::labelsFollowTheFontScale()
+{
+    ShellFixture shell;
+    shell.addAccount(u"One"_s);
+    const MainWindow *window = shell.openWindow();
+    for (const QString &action : {u"reconcileAction"_s, u"reconciliationHistoryAction"_s,
+                                  u"payeesAction"_s, u"recurringAction"_s, u"categoriesAction"_s})
+        shell.trigger(action);
+    QHash<QLabel *, int> sizes;
+    for (const QString &name : {u"reconciliationScreen"_s, u"reconciliationHistoryScreen"_s,
+                                u"payeeScreen"_s, u"recurringScreen"_s, u"categoriesScreen"_s}) {
+        for (QLabel *label : window->findChild<QWidget *>(name)->findChildren<QLabel *>())
+            sizes.insert(label, label->font().pointSize());
+    }
+    shell.state()->themeManager()->setFontScale(160);
+    for (auto size = sizes.cbegin(); size != sizes.cend(); ++size)
+        QTRY_VERIFY2(size.key()->font().pointSize() > size.value(), qPrintable(size.key()->text()));
+    shell.state()->themeManager()->setFontScale(100);
 }
 
 PURSEWELL_TEST_MAIN(MainWindowReconcileTest)

@@ -100,30 +100,44 @@ void MainWindowRecurringTest::secondaryWindowIsReused_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("title");
     QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("change"); // of the rows that it lists
     QTest::newRow("recurring") << u"recurringAction"_s << u"recurringScreen"_s
-                               << u"Recurring Transactions"_s << QSize(700, 500);
-    QTest::newRow("categories") << u"categoriesAction"_s << u"categoriesScreen"_s << u"Categories"_s
-                                << QSize(600, 500);
-    QTest::newRow("payees") << u"payeesAction"_s << u"payeeScreen"_s << u"Payee Management"_s
-                            << QSize(550, 500);
+                               << u"Recurring Transactions"_s << QSize(700, 500)
+                               << u"INSERT INTO recurring_transactions (id, account_id, payee, "
+                                  "amount, start_date, next_due_date, created_at, updated_at) "
+                                  "VALUES ('r', 'Giro', 'Rent', -1, '2024-02-29', '2024-02-29', "
+                                  "'', '')"_s;
+    QTest::newRow("categories")
+        << u"categoriesAction"_s << u"categoriesScreen"_s << u"Categories"_s << QSize(600, 500)
+        << u"UPDATE categories SET deleted_at = created_at WHERE name = 'Pets'"_s;
+    QTest::newRow("payees")
+        << u"payeesAction"_s << u"payeeScreen"_s << u"Payee Management"_s << QSize(550, 500)
+        << u"INSERT INTO transactions (id, account_id, date, payee, amount, created_at, "
+           "updated_at) VALUES ('t', 'Giro', '2024-02-29', 'Zoo', -1, '', '')"_s;
 }
 
 void MainWindowRecurringTest::secondaryWindowIsReused()
 {
     QFETCH(QString, action);
     QFETCH(QString, name);
+    QFETCH(QString, change);
     m_shell->openWindow(); // without an account
+    m_shell->addAccount(u"Giro"_s);
     m_shell->trigger(action);
     auto *window = m_shell->find<QWidget>(name);
     QVERIFY(window && window->isVisible() && window->isWindow());
     QTEST(window->windowTitle(), "title");
     QTEST(window->size(), "size");
+    const auto *model = window->findChild<QAbstractItemView *>()->model();
+    const int listed = model->rowCount();
     window->resize(640, 480);
     window->close();
+    m_shell->valueOf(change); // past the repositories, which would tell
     m_shell->trigger(action);
     QCOMPARE(m_shell->window()->findChildren<QWidget *>(name), QList<QWidget *>{window});
     QVERIFY(window->isVisible());
     QCOMPARE(window->size(), QSize(640, 480));
+    QVERIFY(model->rowCount() != listed);
 }
 
 void MainWindowRecurringTest::sampleDataComesAndGoes()

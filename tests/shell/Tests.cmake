@@ -1,3 +1,7 @@
+add_library(pursewell_state_fixture STATIC support/StateFixture.cpp support/StateFixture.h)
+target_link_libraries(pursewell_state_fixture PUBLIC pursewell_state pursewell_test_support)
+target_precompile_headers(pursewell_state_fixture REUSE_FROM pursewell_test_support)
+
 pursewell_test(AppStateTest LABEL widget USES pursewell_state)
 pursewell_test(SmallWidgetsTest LABEL widget USES pursewell_shell)
 pursewell_test(MainWindowTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)

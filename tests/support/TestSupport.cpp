@@ -58,6 +58,19 @@ QString TestEnvironment::path(const QString &name) const
     return m_directory.filePath(name);
 }
 
+ZoneChange::ZoneChange(const QByteArray &zone)
+{
+    qputenv("TZ", zone); // read anew at each conversion
+}
+
+ZoneChange::~ZoneChange()
+{
+    if (m_before.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", m_before);
+}
+
 LogCatcher::LogCatcher()
 {
     caughtLines() = {};

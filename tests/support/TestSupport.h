@@ -29,6 +29,19 @@ public:
     static QStringList infos();
 };
 
+// For its lifetime the process lives in that time zone.
+class ZoneChange
+{
+public:
+    explicit ZoneChange(const QByteArray &zone);
+    ~ZoneChange();
+    ZoneChange(const ZoneChange &) = delete;
+    ZoneChange &operator=(const ZoneChange &) = delete;
+
+private:
+    QByteArray m_before = qgetenv("TZ");
+};
+
 // Runs one test class in a scratch environment with a QApplication.
 #define PURSEWELL_TEST_MAIN(TestClass)                                                             \
     int main(int argc, char *argv[])                                                               \
