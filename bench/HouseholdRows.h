@@ -38,7 +38,7 @@ class HouseholdRows
 {
 public:
     // The row at position `index` of `count` falls on that share of the 15 years.
-    HouseholdRows(int count, QList<QByteArray> categoryIds, const HouseholdHabits &habits);
+    HouseholdRows(int count, QList<QByteArray> categoryIds, const HouseholdHabits &habits = {});
 
     HouseholdRow draw(int index, int account);
     bool drawsChance(quint32 percent) { return drawBelow(100) < percent; }

@@ -1,8 +1,11 @@
+#include "ImportBenches.h"
 #include "PairedBench.h"
+#include "ParseBenches.h"
 #include "PayeeBenches.h"
 #include "ReadBenches.h"
 #include "ReconciliationBenches.h"
 #include "RecurringBenches.h"
+#include "ReportBenches.h"
 #include "ScreenBenches.h"
 
 #include <QApplication>
@@ -40,14 +43,19 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(printFailuresAlone);
     const QTemporaryDir scratch;
     useScratchDirectory(scratch);
-    benchmark::Initialize(&argc, argv);
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(u"Kestrelwood"_s);
     QCoreApplication::setApplicationName(u"Pursewell"_s);
+    if (importOnce(argc - 1, argv + 1))
+        return 0;
+    benchmark::Initialize(&argc, argv);
+    registerImportBenches(); // before a bench that keeps the program's one connection
+    registerReportBenches();
     for (const auto shape : {BenchDatabase::Shape::TenAccounts, BenchDatabase::Shape::OneAccount}) {
         registerReadBenches(shape);
         registerScreenBenches(shape);
     }
+    registerParseBenches();
     registerRecurringBenches();
     registerReconciliationBenches();
     registerPayeeBenches();

@@ -1,15 +1,9 @@
+#include "Require.h"
+
 #include "core/Dates.h"
 #include "core/Money.h"
 
-#include <cstdlib>
-
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 // Whatever was read stands for an amount that can be written and read again.
 void checkMoney(const QString &text, Currency currency)

@@ -101,7 +101,7 @@ QList<Category> CategoryRepository::listPending() const
 
 bool CategoryRepository::insert(const Category &category)
 {
-    QSqlQuery query = writeQuery(
+    QSqlQuery &query = m_insert.ready(
         m_database,
         u"INSERT INTO categories (id, name, category_type, parent_id, is_tax_relevant, "
         "tax_category, icon, color, is_default, account_id, version, sync_status, server_id, "
@@ -110,7 +110,7 @@ bool CategoryRepository::insert(const Category &category)
     bindFields(query, category);
     query.addBindValue(isoStamp(category.created_at));
     query.addBindValue(isoStamp(category.updated_at));
-    if (!execWrite(query, "CategoryRepository::insert failed:"))
+    if (!m_insert.run("CategoryRepository::insert failed:"))
         return false;
     Q_EMIT categoriesChanged();
     return true;

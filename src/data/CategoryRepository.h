@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/Category.h"
+#include "data/KeptStatement.h"
 
 #include <QList>
 #include <QObject>
@@ -25,6 +26,7 @@ public:
 
     // These write what the record says: the caller sets the stamps, version and sync_status.
     bool insert(const Category &category);
+    bool insertFailedOnDisk() const { return m_insert.failedOnDisk(); } // of the last insert
     bool update(const Category &category);
 
     bool softDelete(const QString &id); // the category alone: children and transactions keep it
@@ -40,4 +42,5 @@ private:
     std::optional<Category> findBy(const QString &statement, const QString &value) const;
 
     Database *m_database;
+    KeptStatement m_insert{};
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/RecurringTransaction.h"
-#include "data/RepeatedQuery.h"
+#include "data/KeptStatement.h"
 
 #include <QList>
 #include <QObject>
@@ -49,6 +49,6 @@ private:
     int notified(int rows); // emits if any row changed
 
     Database *m_database;
-    mutable RepeatedQuery m_find{};
-    RepeatedQuery m_update{};
+    mutable KeptStatement m_find{};
+    KeptStatement m_update{};
 };

@@ -40,13 +40,18 @@ QList<SplitLine> SplitLineRepository::listByTransaction(const QString &transacti
 
 bool SplitLineRepository::insert(const SplitLine &line)
 {
-    QSqlQuery query = writeQuery(m_database,
-                                 u"INSERT INTO split_lines (id, transaction_id, category_id, "
-                                 "amount, memo, created_at, updated_at) "
-                                 "VALUES (?, ?, ?, ?, ?, ?, ?)"_s,
-                                 {line.id, line.transaction_id, line.category_id, line.amount,
-                                  line.memo, isoStamp(line.created_at), isoStamp(line.updated_at)});
-    return execWrite(query, "SplitLineRepository::insert failed:");
+    QSqlQuery &query = m_insert.ready(m_database,
+                                      u"INSERT INTO split_lines (id, transaction_id, category_id, "
+                                      "amount, memo, created_at, updated_at) "
+                                      "VALUES (?, ?, ?, ?, ?, ?, ?)"_s);
+    query.addBindValue(line.id);
+    query.addBindValue(line.transaction_id);
+    query.addBindValue(line.category_id);
+    query.addBindValue(line.amount);
+    query.addBindValue(line.memo);
+    query.addBindValue(isoStamp(line.created_at));
+    query.addBindValue(isoStamp(line.updated_at));
+    return m_insert.run("SplitLineRepository::insert failed:");
 }
 
 bool SplitLineRepository::deleteByTransaction(const QString &transactionId)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/KeptStatement.h"
 #include "data/SplitLine.h"
 
 #include <QList>
@@ -20,6 +21,9 @@ public:
     bool insert(const SplitLine &line); // a failure logs a warning
     bool deleteByTransaction(const QString &transactionId); // for good; logs nothing
 
+    bool insertFailedOnDisk() const { return m_insert.failedOnDisk(); } // of the last insert
+
 private:
     Database *m_database;
+    KeptStatement m_insert{};
 };

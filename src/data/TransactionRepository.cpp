@@ -302,7 +302,7 @@ bool TransactionRepository::insert(const Transaction &transaction)
     bindFields(query, transaction);
     query.addBindValue(isoStamp(transaction.created_at));
     query.addBindValue(isoStamp(transaction.updated_at));
-    if (!execWrite(query, "TransactionRepository::insert failed:"))
+    if (!m_insert.run("TransactionRepository::insert failed:"))
         return false;
     Q_EMIT transactionsChanged(transaction.account_id);
     return true;
@@ -319,7 +319,7 @@ bool TransactionRepository::update(const Transaction &transaction)
     bindFields(query, transaction);
     query.addBindValue(isoStamp(transaction.updated_at));
     query.addBindValue(transaction.id);
-    if (!execWrite(query, "TransactionRepository::update failed:"))
+    if (!m_update.run("TransactionRepository::update failed:"))
         return false;
     Q_EMIT transactionsChanged(transaction.account_id);
     return true;
@@ -386,4 +386,15 @@ int TransactionRepository::notified(int rows, const QString &accountId)
     if (rows > 0)
         Q_EMIT transactionsChanged(accountId);
     return rows;
+}
+
+void TransactionRepository::beginBulkWrite()
+{
+    ++m_bulkWrites;
+}
+
+void TransactionRepository::endBulkWrite()
+{
+    if (--m_bulkWrites == 0)
+        Q_EMIT bulkWriteFinished();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "data/KeptStatement.h"
 #include "data/RegisterRow.h"
-#include "data/RepeatedQuery.h"
 #include "data/SearchFilters.h"
 
 #include <QHash>
@@ -55,10 +55,20 @@ public:
     int markAllPendingForResync(); // how many rows changed
     bool markSynced(const QString &id, const QString &serverId); // emits nothing
 
+    bool insertFailedOnDisk() const { return m_insert.failedOnDisk(); } // of the last insert
+
+    // Around many writes whose end is not known yet; see BulkWrite. The signal fires for each write
+    // as ever, but who answers it by reading a whole table waits for the end.
+    void beginBulkWrite();
+    void endBulkWrite();
+    bool isBulkWriting() const { return m_bulkWrites > 0; }
+
 Q_SIGNALS:
     // An empty account id stands for rows of several accounts. A bulk write emits only if it
     // changed rows.
     void transactionsChanged(const QString &accountId);
+
+    void bulkWriteFinished(); // committed or not
 
 private:
     qint64 startingBalanceOf(const QString &accountId) const;
@@ -66,6 +76,7 @@ private:
     int notified(int rows, const QString &accountId); // emits if any row changed
 
     Database *m_database;
-    RepeatedQuery m_insert{};
-    RepeatedQuery m_update{};
+    KeptStatement m_insert{};
+    KeptStatement m_update{};
+    int m_bulkWrites = 0;
 };

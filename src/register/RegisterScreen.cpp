@@ -36,6 +36,13 @@ QString nativeKeys(const QString &keys)
     return QKeySequence(keys).toString(QKeySequence::NativeText);
 }
 
+// The menu bar has another use for this key, which the grid takes only while it has the focus.
+bool isInsertKey(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_I && key.modifiers() & Qt::ControlModifier
+        && !(key.modifiers() & Qt::ShiftModifier);
+}
+
 } // namespace
 
 RegisterScreen::RegisterScreen(AppState *appState, QWidget *parent)
@@ -291,6 +298,11 @@ bool RegisterScreen::eventFilter(QObject *watched, QEvent *event)
         if (focused && focused != m_view && m_view->isAncestorOf(focused))
             return QCoreApplication::sendEvent(focused, event);
     }
+    if (event->type() == QEvent::ShortcutOverride
+        && isInsertKey(*static_cast<QKeyEvent *>(event))) {
+        event->accept();
+        return true;
+    }
     const auto *widget = qobject_cast<QWidget *>(watched);
     if (event->type() == QEvent::KeyPress && widget
         && (widget == m_view || m_view->isAncestorOf(widget))
@@ -317,12 +329,10 @@ bool RegisterScreen::handleKey(const QKeyEvent &key)
         if (ctrl)
             deleteCurrentRow();
         return ctrl;
-    case Qt::Key_I: {
-        const bool insert = ctrl && !(key.modifiers() & Qt::ShiftModifier);
-        if (insert)
+    case Qt::Key_I:
+        if (isInsertKey(key))
             insertNew();
-        return insert;
-    }
+        return isInsertKey(key);
     case Qt::Key_N:
         if (ctrl)
             newTransactionDialog();

@@ -2,11 +2,11 @@
 
 #include "core/Money.h"
 #include "data/Account.h"
-#include "shell/PlainWords.h"
 #include "shell/theme/BalanceLabel.h"
 #include "shell/theme/ElidedLabel.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/MaterialIcon.h"
+#include "shell/theme/PlainWords.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

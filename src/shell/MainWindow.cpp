@@ -157,6 +157,8 @@ void MainWindow::connectChanges()
             &MainWindow::onAccountsChanged);
     connect(m_appState->transactions(), &TransactionRepository::transactionsChanged, this,
             &MainWindow::schedulePopulate);
+    connect(m_appState->transactions(), &TransactionRepository::bulkWriteFinished, this,
+            &MainWindow::schedulePopulate);
     connect(m_appState->preferences(), &PreferencesRepository::changed, this,
             [this](const QString &key) {
                 if (concernsRegister(key))

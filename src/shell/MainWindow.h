@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDate>
 #include <QList>
 #include <QMainWindow>
 #include <QTimer>
@@ -34,10 +33,13 @@ public Q_SLOTS:
     void selectAccount(const QString &accountId);
     void showNewAccountDialog();
     void showEditAccountDialog();
+    void showReportsWindow();
     void showRecurringWindow();
+    void showSearchWindow();
     void showCategoriesWindow();
     void showReconciliationWindow();
     void showReconciliationHistoryWindow();
+    void showImportWindow();
     void showPayeesWindow();
     void onAccountContextMenu(QPoint pos); // in the list's viewport
     void deleteAccount(const QString &accountId);
@@ -58,6 +60,7 @@ private:
 
     void buildMenus();
     void buildFileMenu();
+    void buildEditMenu();
     void buildAccountMenu();
     void buildViewMenu();
     void buildHelpMenu();
@@ -77,11 +80,11 @@ private:
 
     void presentWindow(QWidget *window, const QString &title, QSize size);
     void restoreInitialView();
+    void onImportCompleted();
     void showNothingOpen();
     void showSelectAccountFirst();
     bool confirmDelete(const Account &account);
     bool deleteWithDependents(const QString &accountId);
-    void insertOpeningBalance(const QString &accountId, QDate date, qint64 amount);
     void loadSampleData();
     void clearSampleData();
     void showSampleDataNotice(const QString &text);

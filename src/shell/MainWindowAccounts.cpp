@@ -2,8 +2,6 @@
 
 #include "shell/MainWindow.h"
 
-#include "core/Dates.h"
-#include "core/Ids.h"
 #include "core/Money.h"
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
@@ -11,12 +9,13 @@
 #include "data/RecurringRepository.h"
 #include "data/SqlTransaction.h"
 #include "data/TransactionRepository.h"
+#include "register/AccountCreation.h"
 #include "register/AccountFormDialog.h"
 #include "register/RegisterScreen.h"
 #include "services/SampleDataService.h"
 #include "shell/AccountList.h"
-#include "shell/PlainWords.h"
 #include "shell/StatusBar.h"
+#include "shell/theme/PlainWords.h"
 
 #include <QDebug>
 #include <QLabel>
@@ -58,8 +57,8 @@ void MainWindow::schedulePopulate()
 
 void MainWindow::onPopulateTimeout()
 {
-    if (m_accountList->isDragging())
-        return; // the end of the drag asks again
+    if (m_accountList->isDragging() || m_appState->transactions()->isBulkWriting())
+        return; // the end of either asks again
     // The sums read the whole table; the row just saved should be seen before that.
     m_registerScreen->repaint();
     populateAccountList();
@@ -166,35 +165,11 @@ void MainWindow::showSelectAccountFirst()
 
 void MainWindow::showNewAccountDialog()
 {
-    AccountFormDialog dialog(this);
-    if (dialog.exec() != QDialog::Accepted)
+    const QString accountId = createAccountByForm(m_appState, this);
+    if (accountId.isEmpty())
         return;
-    Account account = dialog.account();
-    if (account.name.isEmpty())
-        return;
-    // The opening amount becomes a transaction that can be seen, dated and reconciled.
-    const qint64 opening = std::exchange(account.starting_balance, 0);
-    if (!m_appState->accounts()->insert(account))
-        return;
-    if (opening != 0)
-        insertOpeningBalance(account.id, dialog.startDate(), opening);
     populateAccountList();
-    selectAccount(account.id);
-}
-
-void MainWindow::insertOpeningBalance(const QString &accountId, QDate date, qint64 amount)
-{
-    Transaction opening;
-    opening.id = newId();
-    opening.account_id = accountId;
-    opening.date = date;
-    opening.payee = tr("Opening Balance");
-    opening.amount = amount;
-    opening.cleared = true;
-    opening.reconciled = true;
-    opening.created_at = currentStamp();
-    opening.updated_at = opening.created_at;
-    m_appState->transactions()->insert(opening);
+    selectAccount(accountId);
 }
 
 void MainWindow::showEditAccountDialog()

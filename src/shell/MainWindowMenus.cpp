@@ -33,6 +33,7 @@ QString linkTo(const QString &address)
 void MainWindow::buildMenus()
 {
     buildFileMenu();
+    buildEditMenu();
     buildAccountMenu();
     buildViewMenu();
     buildHelpMenu();
@@ -58,9 +59,22 @@ void MainWindow::buildFileMenu()
     newAccount->setShortcut(QKeySequence(u"Ctrl+Shift+N"_s));
     connect(newAccount, &QAction::triggered, this, &MainWindow::showNewAccountDialog);
     menu->addSeparator();
+    QAction *import = addMenuAction(menu, u"importAction"_s, tr("&Import..."));
+    import->setShortcut(QKeySequence(u"Ctrl+I"_s)); // the register's grid takes it for a new row
+    connect(import, &QAction::triggered, this, &MainWindow::showImportWindow);
+    menu->addSeparator();
     QAction *quit = addMenuAction(menu, u"quitAction"_s, tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, qApp, &QApplication::quit);
+}
+
+void MainWindow::buildEditMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Edit"));
+    menu->setObjectName(u"editMenu"_s);
+    QAction *find = addMenuAction(menu, u"findAction"_s, tr("&Find..."));
+    find->setShortcut(QKeySequence::Find);
+    connect(find, &QAction::triggered, this, &MainWindow::showSearchWindow);
 }
 
 void MainWindow::buildAccountMenu()
@@ -85,6 +99,9 @@ void MainWindow::buildViewMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&View"));
     menu->setObjectName(u"viewMenu"_s);
+    QAction *reports = addMenuAction(menu, u"reportsAction"_s, tr("&Reports"));
+    reports->setShortcut(QKeySequence(u"Ctrl+2"_s));
+    connect(reports, &QAction::triggered, this, &MainWindow::showReportsWindow);
     QAction *recurring = addMenuAction(menu, u"recurringAction"_s, tr("Re&curring Transactions"));
     recurring->setShortcut(QKeySequence(u"Ctrl+3"_s));
     connect(recurring, &QAction::triggered, this, &MainWindow::showRecurringWindow);

@@ -7,10 +7,13 @@
 #include "data/RecurringRepository.h"
 #include "register/RegisterScreen.h"
 #include "screens/CategoriesScreen.h"
+#include "screens/ImportScreen.h"
 #include "screens/PayeeScreen.h"
 #include "screens/ReconciliationHistoryScreen.h"
 #include "screens/ReconciliationScreen.h"
 #include "screens/RecurringScreen.h"
+#include "screens/ReportsScreen.h"
+#include "screens/SearchScreen.h"
 
 #include <QPointer>
 
@@ -101,6 +104,48 @@ void MainWindow::showRecurringWindow()
     }
     screen->refresh();
     presentWindow(screen, tr("Recurring Transactions"), {700, 500});
+}
+
+void MainWindow::showReportsWindow()
+{
+    QPointer<ReportsScreen> &screen = screenOf<ReportsScreen>();
+    if (!screen)
+        screen = new ReportsScreen(m_appState);
+    screen->refresh();
+    presentWindow(screen, tr("Reports"), {800, 600});
+}
+
+// A double click on a result leads nowhere yet: no screen hears of it.
+void MainWindow::showSearchWindow()
+{
+    QPointer<SearchScreen> &screen = screenOf<SearchScreen>();
+    if (!screen)
+        screen = new SearchScreen(m_appState);
+    screen->reloadFilters();
+    presentWindow(screen, tr("Search Transactions"), {800, 550});
+    screen->focusSearchField();
+}
+
+// Being shown, the screen clears itself and reads the accounts anew; one that is open keeps what a
+// person has chosen in it.
+void MainWindow::showImportWindow()
+{
+    QPointer<ImportScreen> &screen = screenOf<ImportScreen>();
+    if (!screen) {
+        screen = new ImportScreen(m_appState);
+        connect(screen, &ImportScreen::importCompleted, this, &MainWindow::onImportCompleted);
+    }
+    presentWindow(screen, tr("Import Transactions"), {650, 600});
+}
+
+void MainWindow::onImportCompleted()
+{
+    // A person's first import may have brought the first accounts.
+    if (m_appState->currentAccountId().isEmpty())
+        restoreInitialView();
+    else
+        m_registerScreen->refresh();
+    populateAccountList();
 }
 
 void MainWindow::showCategoriesWindow()

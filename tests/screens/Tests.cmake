@@ -1,8 +1,14 @@
 pursewell_test(CategoriesScreenTest LABEL widget
   USES pursewell_screens pursewell_state_fixture pursewell_test_database)
+pursewell_test(ImportScreenTest LABEL widget USES pursewell_screens)
 pursewell_test(PayeeScreenTest LABEL widget
   USES pursewell_screens pursewell_state_fixture pursewell_test_database)
 pursewell_test(ReconciliationHistoryScreenTest LABEL widget USES pursewell_screens pursewell_state_fixture)
 pursewell_test(ReconciliationScreenTest LABEL widget USES pursewell_screens pursewell_state_fixture)
 pursewell_test(RecurringScreenTest LABEL widget
   USES pursewell_screens pursewell_state_fixture pursewell_test_database)
+pursewell_test(ReportPeriodsTest LABEL widget USES pursewell_screens)
+pursewell_test(ReportsScreenTest LABEL widget
+  USES pursewell_screens pursewell_register_fixture SOURCES ../support/SampleRecords.cpp)
+pursewell_test(SearchScreenTest LABEL widget
+  USES pursewell_screens pursewell_register_fixture SOURCES ../support/SampleRecords.cpp)

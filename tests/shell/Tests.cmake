@@ -7,6 +7,7 @@ pursewell_test(SmallWidgetsTest LABEL widget USES pursewell_shell)
 pursewell_test(MainWindowTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowAccountsTest LABEL widget
   USES pursewell_shell pursewell_test_database SOURCES ShellFixture.cpp)
+pursewell_test(MainWindowImportTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowReconcileTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowRecurringTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(ApplicationTest LABEL widget USES pursewell_application)

@@ -11,7 +11,9 @@
 #include "data/SplitLineRepository.h"
 #include "data/TransactionRepository.h"
 #include "services/CategoryService.h"
+#include "services/ImportService.h"
 #include "services/RecurringService.h"
+#include "services/ReportService.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/ThemeManager.h"
 
@@ -43,6 +45,8 @@ bool AppState::initialize()
     m_categoryService = new CategoryService(m_categories, this);
     m_recurringService =
         new RecurringService(m_recurring, m_transactions, m_accounts, this, m_database);
+    m_reportService = new ReportService(m_database, this);
+    m_importService = new ImportService(m_transactions, m_categories, m_splitLines, this);
     applyLook();
     readWeekStart();
     m_categoryService->seedDefaults();

@@ -7,10 +7,12 @@ class AccountRepository;
 class CategoryRepository;
 class CategoryService;
 class Database;
+class ImportService;
 class PreferencesRepository;
 class ReconciliationRepository;
 class RecurringRepository;
 class RecurringService;
+class ReportService;
 class SplitLineRepository;
 class ThemeManager;
 class TransactionRepository;
@@ -39,6 +41,8 @@ public:
     ReconciliationRepository *reconciliations() const { return m_reconciliations; }
     CategoryService *categoryService() const { return m_categoryService; }
     RecurringService *recurringService() const { return m_recurringService; }
+    ReportService *reportService() const { return m_reportService; }
+    ImportService *importService() const { return m_importService; }
     ThemeManager *themeManager() const { return m_themeManager; }
 
     // Empty when none is selected. At start the one that was shown last, which may be gone by now.
@@ -65,6 +69,8 @@ private:
     ReconciliationRepository *m_reconciliations = nullptr;
     CategoryService *m_categoryService = nullptr;
     RecurringService *m_recurringService = nullptr;
+    ReportService *m_reportService = nullptr;
+    ImportService *m_importService = nullptr;
     ThemeManager *m_themeManager = nullptr;
     QString m_currentAccountId{};
 };

@@ -1,4 +1,4 @@
-#include "shell/PlainWords.h"
+#include "shell/theme/PlainWords.h"
 
 #include <QTextDocument>
 
