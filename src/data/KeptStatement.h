@@ -6,8 +6,8 @@
 
 class Database;
 
-// A statement that is prepared once and kept for all its runs. An import runs the same insert a hundred
-// thousand times, and preparing it, triggers and all, takes half as long as running it.
+// A statement that is prepared once and kept for all its runs. An import runs the same insert a
+// hundred thousand times, and preparing it, triggers and all, takes half as long as running it.
 class KeptStatement
 {
 public:

@@ -19,7 +19,8 @@ namespace {
 constexpr int kPreviewRows = 5;
 constexpr int kPreviewHeight = 220; // pixels
 constexpr int kMaxFittedWidth = 240; // pixels
-constexpr int kFittedColumns = 30; // a file that is no table can have millions
+constexpr int kMaxColumns = 16'384; // of a spreadsheet; a file that is no table can have millions
+constexpr int kFittedColumns = 30; // measuring takes long
 constexpr int kShownLength = 200; // characters
 constexpr int kColumnsForGuess = 3;
 
@@ -125,8 +126,8 @@ void CsvMappingForm::showFile(const QString &path)
     const QList<QStringList> rows = readRows(path);
     if (rows.isEmpty())
         return;
-    fillColumns(rows.first());
-    showRows(rows.first(kPreviewRows < rows.size() ? kPreviewRows : rows.size()));
+    fillColumns(rows.first().mid(0, kMaxColumns));
+    showRows(rows.mid(0, kPreviewRows));
 }
 
 void CsvMappingForm::fillColumns(const QStringList &firstRow)
@@ -151,7 +152,7 @@ void CsvMappingForm::fillColumns(const QStringList &firstRow)
 
 void CsvMappingForm::showRows(const QList<QStringList> &rows)
 {
-    const int columns = static_cast<int>(rows.first().size());
+    const int columns = static_cast<int>(qMin(rows.first().size(), kMaxColumns));
     m_preview->setRowCount(static_cast<int>(rows.size()));
     m_preview->setColumnCount(columns);
     QStringList headers;

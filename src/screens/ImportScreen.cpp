@@ -65,8 +65,10 @@ ImportScreen::ImportScreen(AppState *appState, QWidget *parent)
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->addWidget(m_pages);
     clearSelection();
+    m_accountsTimer.setSingleShot(true); // once for all accounts that change together
+    connect(&m_accountsTimer, &QTimer::timeout, this, &ImportScreen::reloadAccounts);
     connect(m_appState->accounts(), &AccountRepository::accountsChanged, this,
-            &ImportScreen::reloadAccounts);
+            [this] { m_accountsTimer.start(0); });
 }
 
 QWidget *ImportScreen::buildSetupPage()
@@ -204,8 +206,8 @@ void ImportScreen::reloadAccounts()
     const QList<Account> accounts = m_appState->accounts()->listActive();
     for (const Account &account : accounts)
         m_accountCombo->addItem(account.name, account.id);
-    if (const int item = m_accountCombo->findData(chosen); item >= 0)
-        m_accountCombo->setCurrentIndex(item);
+    if (!chosen.isEmpty())
+        m_accountCombo->setCurrentIndex(m_accountCombo->findData(chosen));
 }
 
 void ImportScreen::showFileName(const QString &text, const QStringList &paths)
@@ -288,6 +290,7 @@ QString ImportScreen::createTargetAccount()
     if (question.exec() != QMessageBox::Yes)
         return {};
     const QString accountId = createAccountByForm(m_appState, this);
+    reloadAccounts();
     m_accountCombo->setCurrentIndex(m_accountCombo->findData(accountId));
     return accountId;
 }
@@ -316,7 +319,11 @@ QString ImportScreen::targetOf(const QifMapRow &row)
     const QString choice = row.combo->currentData().toString();
     if (choice == kSkipSource)
         return {};
-    return choice == kCreateAccount ? createAccount(row) : choice;
+    if (choice == kCreateAccount)
+        return createAccount(row);
+    // Meanwhile it may have been deleted in the main window; nobody would find the rows there.
+    const std::optional<Account> account = m_appState->accounts()->findById(choice);
+    return account && !account->deleted_at ? choice : QString();
 }
 
 QString ImportScreen::createAccount(const QifMapRow &row)

@@ -3,6 +3,7 @@
 #include "services/ImportRecords.h"
 
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 
 class AppState;
@@ -46,7 +47,7 @@ private:
 
     bool isQif() const;
     void clearSelection();
-    void reloadAccounts(); // keeps the chosen one, if it is still there
+    void reloadAccounts(); // keeps the chosen one; none is chosen if it is gone
     void selectQifFiles();
     void selectCsvFile();
     void showFileName(const QString &text, const QStringList &paths);
@@ -61,6 +62,7 @@ private:
     void leaveSummary();
 
     AppState *m_appState;
+    QTimer m_accountsTimer{};
     QString m_selectedFile{}; // CSV
     QStringList m_selectedFiles{}; // QIF
     QStackedWidget *m_pages = nullptr;

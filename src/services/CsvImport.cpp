@@ -8,6 +8,7 @@
 
 #include <QDebug>
 #include <QSqlDatabase>
+#include <QSqlError>
 
 #include <algorithm>
 #include <utility>
@@ -40,9 +41,13 @@ ImportResult CsvImport::run(ImportProgress progress)
         progress.next();
         writeRow(m_rows.at(i));
     }
-    // A refused commit leaves the counts as they are: they tell what was tried.
-    if (m_result.aborted || !database.commit())
+    if (m_result.aborted) {
         database.rollback();
+    } else if (!database.commit()) {
+        // The counts stay as they are: they tell what was tried.
+        qWarning() << "CSV import: commit failed:" << database.lastError().text();
+        database.rollback();
+    }
     progress.finish();
     return m_result;
 }

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QSqlDatabase>
+#include <QSqlError>
 
 #include <utility>
 
@@ -65,9 +66,13 @@ ImportResult QifImport::run(ImportProgress progress)
     database.transaction();
     writeCategories();
     writeRows(progress);
-    // A refused commit leaves the counts as they are: they tell what was tried.
-    if (m_result.aborted || !database.commit())
+    if (m_result.aborted) {
         database.rollback();
+    } else if (!database.commit()) {
+        // The counts stay as they are: they tell what was tried.
+        qWarning() << "QIF import: commit failed:" << database.lastError().text();
+        database.rollback();
+    }
     progress.finish();
     return m_result;
 }
@@ -102,11 +107,10 @@ void QifImport::writeRow(const ImportRow &row)
         ++m_result.duplicates;
         return;
     }
-    Transaction transaction = transactionOf(row, payee);
-    const int before = m_result.imported;
-    store(row, transaction);
-    if (m_result.imported > before)
-        cacheOf(row.targetAccountId).add(key);
+    if (!store(row, transactionOf(row, payee)))
+        return;
+    ++m_result.imported;
+    cacheOf(row.targetAccountId).add(key);
 }
 
 Transaction QifImport::transactionOf(const ImportRow &row, const QString &payee)
@@ -129,24 +133,24 @@ Transaction QifImport::transactionOf(const ImportRow &row, const QString &payee)
     };
 }
 
-void QifImport::store(const ImportRow &row, Transaction &transaction)
+bool QifImport::store(const ImportRow &row, Transaction transaction)
 {
     abortIfDiskFailed(m_categories.failedOnDisk());
     const std::optional<Transaction> partner = join(row, transaction);
     if (m_result.aborted)
-        return;
+        return false;
     if (!m_stores.transactions->insert(transaction)) {
         qWarning() << "QIF import: insert failed for" << isoDate(transaction.date)
                    << transaction.payee << "amount" << transaction.amount << "account"
                    << transaction.account_id;
         ++m_result.databaseErrors;
         abortIfDiskFailed(m_stores.transactions->insertFailedOnDisk());
-        return;
+        return false;
     }
     if (partner && !updatePartner(row, *partner))
-        return;
+        return false;
     writeSplits(row, transaction);
-    ++m_result.imported;
+    return true;
 }
 
 std::optional<Transaction> QifImport::join(const ImportRow &row, Transaction &transaction)

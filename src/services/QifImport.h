@@ -21,7 +21,7 @@ private:
     void writeRows(ImportProgress &progress);
     void writeRow(const ImportRow &row);
     Transaction transactionOf(const ImportRow &row, const QString &payee);
-    void store(const ImportRow &row, Transaction &transaction);
+    bool store(const ImportRow &row, Transaction transaction); // with its partner and its splits
     void writeSplits(const ImportRow &row, const Transaction &transaction);
 
     // Gives the transaction its link or its hint. The result is the other side as it is to be

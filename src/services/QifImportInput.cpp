@@ -26,6 +26,7 @@ ImportRow rowOf(QifTransaction &&transaction, const QString &path, const QifTarg
 } // namespace
 
 QifTargets::QifTargets(const QifAccountMapping &mapping)
+    : m_accountByKey(mapping)
 {
     for (auto entry = mapping.cbegin(); entry != mapping.cend(); ++entry)
         m_accountByLoweredKey.insert(entry.key().toLower(), entry.value());
@@ -33,7 +34,9 @@ QifTargets::QifTargets(const QifAccountMapping &mapping)
 
 QString QifTargets::accountFor(const QString &sourceKey) const
 {
-    return m_accountByLoweredKey.value(sourceKey.toLower());
+    const auto exact = m_accountByKey.constFind(sourceKey);
+    return exact != m_accountByKey.constEnd() ? *exact
+                                              : m_accountByLoweredKey.value(sourceKey.toLower());
 }
 
 std::optional<QifParseResult> readQifFile(const QString &path)

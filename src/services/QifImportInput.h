@@ -7,7 +7,8 @@
 
 #include <optional>
 
-// Where the sources of an import go, found by a name in any case.
+// Where the sources of an import go, found by a name in any case; but a.qif and A.qif are two
+// files.
 class QifTargets
 {
 public:
@@ -15,6 +16,7 @@ public:
     QString accountFor(const QString &sourceKey) const; // empty: skipped, or not mapped
 
 private:
+    QifAccountMapping m_accountByKey;
     QHash<QString, QString> m_accountByLoweredKey{};
 };
 

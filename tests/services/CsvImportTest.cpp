@@ -65,16 +65,13 @@ void CsvImportTest::imports()
 void CsvImportTest::tellsTheRowsOfData()
 {
     ImportHome home;
-    QStringList told;
-    QObject::connect(&home.service, &ImportService::importStarted, &home.service,
-                     [&](int total) { told << QString::number(total); });
-    QObject::connect(&home.service, &ImportService::importProgress, &home.service,
-                     [&](int current, int total) { told << u"%1/%2"_s.arg(current).arg(total); });
-    const QString path = home.file(u"Date,Payee,Amount\n"_s + u"2024-01-02,X,1\n"_s.repeated(100));
+    QSignalSpy started(&home.service, &ImportService::importStarted);
+    const QString path = home.file(u"Date,Payee,Amount\n2024-01-02,X,1\n"_s);
     home.service.importCsv(path, u"a"_s, inOrder(true));
+    QCOMPARE(started.value(0), QVariantList{1});
     QFile::remove(path);
-    QCOMPARE(counts(home.service.importCsv(path, u"a"_s, inOrder())), u""_s); // not a word
-    QCOMPARE(told.join(u", "_s), u"100, 100/100, 100/100"_s);
+    QCOMPARE(counts(home.service.importCsv(path, u"a"_s, inOrder())), u""_s);
+    QCOMPARE(started.size(), 1); // not a word
 }
 
 void CsvImportTest::survivesAFullDisk()

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void analysis();
     void imports_data();
     void imports();
+    void tellsFilesApartByCase();
     void joinsEarlierRows_data();
     void joinsEarlierRows();
     void splitsGoWithTheirTransaction();
@@ -143,6 +144,15 @@ void ImportServiceTest::imports()
     QCOMPARE(home.count(u"transactions"_s), stored);
 }
 
+void ImportServiceTest::tellsFilesApartByCase()
+{
+    Home home;
+    const QString lower = home.file(u"D1/2/24\nT1\nPX"_s, u"x.qif"_s);
+    const QString upper = home.file(u"D1/2/24\nT2\nPX"_s, u"X.qif"_s);
+    home.service.importQifFiles({lower, upper}, {{lower, u"a"_s}, {upper, u"b"_s}});
+    QCOMPARE(home.rows(), u"a 2024-01-02 X 100; b 2024-01-02 X 200"_s);
+}
+
 void ImportServiceTest::joinsEarlierRows_data()
 {
     QTest::addColumn<QString>("earlier"); // in Bank
@@ -244,9 +254,10 @@ void ImportServiceTest::undoesAll_data()
            "SELECT RAISE(ABORT, 'refused'); END"_s
         << u"1 imported, 1 aborted"_s
         << u"QIF import aborted: failed to update retroactive partner"_s;
-    QTest::newRow("commit refused") << u"CREATE TRIGGER harm AFTER INSERT ON transactions BEGIN "
-                                       "INSERT INTO guard VALUES ('nobody'); END"_s
-                                    << u"3 imported, 1 linked, 1 earlier"_s << u""_s;
+    QTest::newRow("commit refused")
+        << u"CREATE TRIGGER harm AFTER INSERT ON transactions BEGIN "
+           "INSERT INTO guard VALUES ('nobody'); END"_s
+        << u"3 imported, 1 linked, 1 earlier"_s << u"QIF import: commit failed: \"FOREIGN KEY"_s;
     QTest::newRow("one row refused")
         << u"CREATE TRIGGER harm BEFORE INSERT ON transactions WHEN new.payee = 'From' BEGIN "
            "SELECT RAISE(ABORT, 'refused'); END"_s

@@ -10,6 +10,7 @@
 
 #include <rapidcheck.h>
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -17,8 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Sums = QMap<QString, qint64>;
-using Text = std::function<QString(const Transaction &)>;
-using Figure = std::function<qint64(const Transaction &)>;
 
 const QDate kFirstDay(2023, 11, 28);
 constexpr int kDays = 100; // with New Year and a leap day among them
@@ -99,37 +98,23 @@ QString categoryOf(const Transaction &row)
     return row.category_id == u"rent"_s ? u"rent"_s : sampleCategory().name;
 }
 
-qint64 amountOf(const Transaction &row)
-{
-    return row.amount;
-}
-
-// By hand, what the reports leave to SQL. A row without a group (null) is left out.
-Sums sums(const QList<Transaction> &rows, const Text &group, const Figure &figure = amountOf)
+// A row without a group (null) is left out.
+template <typename Row, typename Group, typename Figure>
+Sums sums(const QList<Row> &rows, Group group, Figure figure)
 {
     Sums sums;
-    for (const Transaction &row : rows) {
-        if (!group(row).isNull())
-            sums[group(row)] += figure(row);
+    for (const Row &row : rows) {
+        if (const QString name = std::invoke(group, row); !name.isNull())
+            sums[name] += std::invoke(figure, row);
     }
     return sums;
 }
 
 template <typename Row, typename Number>
-Sums sums(const QList<Row> &rows, QString Row::*group, Number Row::*figure)
+void check(const QList<Row> &report, QString Row::*group, Number Row::*figure, const Sums &wanted)
 {
-    Sums sums;
-    for (const Row &row : rows) {
-        RC_ASSERT(!sums.contains(row.*group));
-        sums.insert(row.*group, row.*figure);
-    }
-    return sums;
-}
-
-template <typename Row> bool startsWithTheLeast(const QList<Row> &rows)
-{
-    return std::is_sorted(rows.begin(), rows.end(),
-                          [](const Row &a, const Row &b) { return a.total < b.total; });
+    RC_ASSERT(report.size() == wanted.size()); // each group once
+    RC_ASSERT(sums(report, group, figure) == wanted);
 }
 
 QList<MonthlyRow> months(const QList<Transaction> &rows, bool withTransfers)
@@ -138,7 +123,7 @@ QList<MonthlyRow> months(const QList<Transaction> &rows, bool withTransfers)
         const bool counts = withTransfers || row.transfer_link_id.isEmpty();
         return counts ? row.date.toString(u"yyyy-MM"_s) : QString();
     };
-    const Sums net = sums(rows, month);
+    const Sums net = sums(rows, month, &Transaction::amount);
     const Sums in = sums(rows, month, [](const auto &row) { return qMax(row.amount, 0); });
     QList<MonthlyRow> result;
     for (auto sum = net.begin(); sum != net.end(); ++sum)
@@ -149,44 +134,50 @@ QList<MonthlyRow> months(const QList<Transaction> &rows, bool withTransfers)
 void checkTotals(const Household &home, const QList<Transaction> &rows)
 {
     const auto spending = home.reports.categorySpending(home.from, home.to, home.accountId);
-    RC_ASSERT(startsWithTheLeast(spending));
-    RC_ASSERT(sums(spending, &CategorySpendingRow::categoryName, &CategorySpendingRow::total)
-              == sums(rows, [](const auto &row) {
-                     return row.amount < 0 ? categoryOf(row) : QString();
-                 }));
+    const auto spentOn = [](const Transaction &row) {
+        return row.amount < 0 ? categoryOf(row) : QString();
+    };
+    RC_ASSERT(std::ranges::is_sorted(spending, {}, &CategorySpendingRow::total));
+    check(spending, &CategorySpendingRow::categoryName, &CategorySpendingRow::total,
+          sums(rows, spentOn, &Transaction::amount));
     const auto payees = home.reports.payeeSummary(home.from, home.to, home.accountId);
-    const auto payee = [](const Transaction &row) { return u""_s + row.payee; };
-    RC_ASSERT(startsWithTheLeast(payees));
-    RC_ASSERT(sums(payees, &PayeeSummaryRow::payee, &PayeeSummaryRow::total) == sums(rows, payee));
-    RC_ASSERT(sums(payees, &PayeeSummaryRow::payee, &PayeeSummaryRow::count)
-              == sums(rows, payee, [](const auto &) { return 1; }));
+    RC_ASSERT(std::ranges::is_sorted(payees, {}, &PayeeSummaryRow::total));
+    check(payees, &PayeeSummaryRow::payee, &PayeeSummaryRow::total,
+          sums(rows, &Transaction::payee, &Transaction::amount));
+    check(payees, &PayeeSummaryRow::payee, &PayeeSummaryRow::count,
+          sums(rows, &Transaction::payee, [](const auto &) { return 1; }));
     // The account that is chosen has no say in the taxes.
-    RC_ASSERT(sums(home.reports.taxReport(home.from, home.to), &TaxReportRow::categoryName,
-                   &TaxReportRow::total)
-              == sums(home.rows(home.from, home.to, {}), [](const auto &row) {
-                     return categoryOf(row) == sampleCategory().name ? categoryOf(row) : QString();
-                 }));
+    const auto taxed = [](const Transaction &row) {
+        return categoryOf(row) == sampleCategory().name ? categoryOf(row) : QString();
+    };
+    check(home.reports.taxReport(home.from, home.to), &TaxReportRow::categoryName,
+          &TaxReportRow::total,
+          sums(home.rows(home.from, home.to, {}), taxed, &Transaction::amount));
 }
 
 void checkYears(const Household &home)
 {
     const QDate middle = kFirstDay.addDays(kDays / 2);
     const QDate before = middle.addDays(-1);
-    const auto rows = home.reports.yearOverYear(kFirstDay, before, middle, home.to, home.accountId);
-    const Sums first = sums(home.rows(kFirstDay, before, home.accountId), categoryOf);
-    const Sums second = sums(home.rows(middle, home.to, home.accountId), categoryOf);
+    const auto totals = [&](QDate from, QDate to) {
+        return sums(home.rows(from, to, home.accountId), categoryOf, &Transaction::amount);
+    };
+    const Sums first = totals(kFirstDay, before);
+    const Sums second = totals(middle, home.to);
     Sums both = first;
     both.insert(second);
     QList<YearOverYearRow> wanted;
     for (const QString &name : both.keys())
         wanted.append({name, first[name], second[name], second[name] - first[name]});
-    RC_ASSERT(rows == wanted);
+    RC_ASSERT(home.reports.yearOverYear(kFirstDay, before, middle, home.to, home.accountId)
+              == wanted);
 }
 
 void checkAccounts(const Household &home)
 {
     const auto rows = home.rows(kFirstDay, kFirstDay.addDays(kDays), u"a"_s);
-    const Sums states = sums(rows, [](const auto &row) { return row.cleared ? u"C"_s : u"-"_s; });
+    const auto state = [](const Transaction &row) { return row.cleared ? u"C"_s : u"-"_s; };
+    const Sums states = sums(rows, state, &Transaction::amount);
     const qint64 cleared = 12345 + states[u"C"_s];
     const qint64 uncleared = states[u"-"_s];
     const QString name = sampleAccount().name;
@@ -200,12 +191,10 @@ void checkTransactions(const Household &home, const QList<Transaction> &rows,
                        const QString &categoryId)
 {
     using Row = TransactionReportRow;
-    const auto earlier = [](const Row &a, const Row &b) {
-        return std::tuple(a.date, a.payee.toUtf8()) < std::tuple(b.date, b.payee.toUtf8());
-    };
+    const auto place = [](const Row &row) { return std::tuple(row.date, row.payee.toUtf8()); };
     QList<Row> listed =
         home.reports.transactionReport(home.from, home.to, home.accountId, categoryId);
-    RC_ASSERT(std::is_sorted(listed.begin(), listed.end(), earlier));
+    RC_ASSERT(std::ranges::is_sorted(listed, {}, place));
     for (const Transaction &row : rows) {
         const QString category = row.category_id.isEmpty() ? QString() : categoryOf(row);
         if (categoryId.isEmpty() || row.category_id == categoryId)

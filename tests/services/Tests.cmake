@@ -1,8 +1,8 @@
 pursewell_test(CategoryServiceTest LABEL unit USES pursewell_services pursewell_test_database)
 pursewell_test(CsvImportTest LABEL unit USES pursewell_services pursewell_test_database)
-pursewell_test(CsvReaderTest LABEL unit USES pursewell_services rapidcheck)
+pursewell_test(CsvReaderTest LABEL unit USES pursewell_services)
 pursewell_test(ImportServiceTest LABEL unit USES pursewell_services pursewell_test_database)
-pursewell_test(QifReaderTest LABEL unit USES pursewell_services rapidcheck)
+pursewell_test(QifReaderTest LABEL unit USES pursewell_services)
 pursewell_test(RecurringServiceTest LABEL unit USES pursewell_services pursewell_test_database)
 pursewell_test(ReportServiceTest LABEL unit
   USES pursewell_services pursewell_test_database rapidcheck)

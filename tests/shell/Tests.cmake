@@ -3,6 +3,7 @@ target_link_libraries(pursewell_state_fixture PUBLIC pursewell_state pursewell_t
 target_precompile_headers(pursewell_state_fixture REUSE_FROM pursewell_test_support)
 
 pursewell_test(AppStateTest LABEL widget USES pursewell_state)
+pursewell_test(IndicatorStyleTest LABEL widget USES pursewell_theme)
 pursewell_test(SmallWidgetsTest LABEL widget USES pursewell_shell)
 pursewell_test(MainWindowTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowAccountsTest LABEL widget

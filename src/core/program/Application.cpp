@@ -7,6 +7,7 @@
 #include "data/DataDirectory.h"
 #include "shell/FeedbackPage.h"
 #include "shell/MainWindow.h"
+#include "shell/theme/IndicatorStyle.h"
 
 #include <QFontDatabase>
 #include <QIcon>
@@ -41,6 +42,7 @@ Application::Application(int &argc, char **argv)
     setApplicationName(kApplicationName);
     setApplicationVersion(kApplicationVersion);
     installLanguage(); // before any widget has taken its texts
+    setStyle(new IndicatorStyle); // the application owns it
     setWindowIcon(QIcon(u":/icons/icons/app_icon.png"_s));
     QFontDatabase::addApplicationFont(u":/fonts/fonts/MaterialIcons-Regular.otf"_s);
 }
