@@ -7,6 +7,7 @@
 #include "RecurringBenches.h"
 #include "ReportBenches.h"
 #include "ScreenBenches.h"
+#include "SyncBenches.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -25,6 +26,7 @@ void useScratchDirectory(const QTemporaryDir &directory)
     for (const char *variable :
          {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME", "PURSEWELL_DATA_DIR"})
         qputenv(variable, directory.path().toUtf8());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // nor the keyring
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
@@ -54,6 +56,7 @@ int main(int argc, char *argv[])
     for (const auto shape : {BenchDatabase::Shape::TenAccounts, BenchDatabase::Shape::OneAccount}) {
         registerReadBenches(shape);
         registerScreenBenches(shape);
+        registerSyncBenches(shape);
     }
     registerParseBenches();
     registerRecurringBenches();

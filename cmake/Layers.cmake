@@ -50,6 +50,9 @@ function(pursewell_layer name)
   endforeach()
   list(TRANSFORM arg_QT PREPEND Qt6::)
   add_library(${arg_LIBRARY} STATIC ${arg_SOURCES})
+  if(NOT arg_LIBRARY STREQUAL pursewell_${name})
+    add_library(pursewell_${name} ALIAS ${arg_LIBRARY})
+  endif()
   target_link_libraries(${arg_LIBRARY}
     PUBLIC ${used_targets} ${arg_QT} ${arg_LIBS}
     PRIVATE pursewell_options)

@@ -9,7 +9,7 @@ pictures=$repository_root/build/tour
 stage=        # scratch directory: home, settings, data, logs
 program=      # the program under tour
 program_pid=
-stage_pids=() # the display and its window manager
+program_log=program.log # in the stage
 picture_number=0
 
 # open_stage <program>: an empty home, a virtual display and a window manager on it.
@@ -26,7 +26,9 @@ open_stage() {
   export XDG_CACHE_HOME=$stage/cache XDG_RUNTIME_DIR=$stage/runtime
   export PURSEWELL_DATA_DIR=$stage/data
   export LANG=C.UTF-8 LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
-  unset WAYLAND_DISPLAY XAUTHORITY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS
+  # No keyring either; unset, a bus would be started for the display and outlive it.
+  export DBUS_SESSION_BUS_ADDRESS=disabled:
+  unset WAYLAND_DISPLAY XAUTHORITY SESSION_MANAGER
   unset PURSEWELL_DEV PURSEWELL_VERBOSE QT_STYLE_OVERRIDE QT_SCALE_FACTOR QT_QPA_PLATFORMTHEME
   open_display
 }
@@ -34,7 +36,6 @@ open_stage() {
 open_display() {
   Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp -noreset \
     3>"$stage/display" >"$stage/xvfb.log" 2>&1 &
-  stage_pids+=($!)
   wait_until 20 "the virtual display" test -s "$stage/display"
   DISPLAY=:$(<"$stage/display")
   export DISPLAY
@@ -51,7 +52,6 @@ open_display() {
 </openbox_config>
 XML
   openbox --sm-disable --config-file "$stage/openbox.xml" >"$stage/openbox.log" 2>&1 &
-  stage_pids+=($!)
   wait_until 20 "the window manager" window_manager_runs
 }
 
@@ -76,14 +76,15 @@ window_manager_runs() {
   xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
-# Runs at every end of the tour. On a failure it leaves behind what tells why.
+# Runs at every end of the tour and ends all that it started. On a failure it leaves behind what
+# tells why.
 close_stage() {
   local status=$? pid
   trap - EXIT
   if [ "$status" -ne 0 ]; then
     keep_evidence
   fi
-  for pid in ${program_pid:+"$program_pid"} ${stage_pids[@]+"${stage_pids[@]}"}; do
+  for pid in $(jobs -p); do
     kill -9 "$pid" 2>/dev/null || true
     wait "$pid" 2>/dev/null || true
   done
@@ -125,7 +126,7 @@ new_household() {
 
 launch() {
   [ -z "$program_pid" ] || fail "the program is running already"
-  "$program" >>"$stage/program.log" 2>&1 &
+  "$program" >>"$stage/$program_log" 2>&1 &
   program_pid=$!
 }
 

@@ -121,7 +121,8 @@ void RegisterScreen::setAccount(const QString &accountId)
 
 void RegisterScreen::refresh()
 {
-    if (m_accountId.isEmpty() || m_view->isEditing())
+    // A sync may end in the turn of the event loop between two editors of a row.
+    if (m_accountId.isEmpty() || m_view->isEditing() || m_view->isHopping())
         return;
     const auto account = m_appState->accounts()->findById(m_accountId);
     if (!account)

@@ -56,6 +56,7 @@ QWidget *RegisterTableView::activeEditor() const
 
 void RegisterTableView::dropActiveEditor()
 {
+    m_hop = Hop::None;
     if (QWidget *editor = activeEditor())
         closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
 }

@@ -15,8 +15,9 @@ public:
     explicit RegisterTableView(RegisterScreen *screen, QWidget *parent = nullptr);
 
     bool isEditing() const { return state() == EditingState; }
+    bool isHopping() const { return m_hop != Hop::None; } // between two editors
     QWidget *activeEditor() const; // at the current cell, or null
-    void dropActiveEditor(); // closes it without taking its text
+    void dropActiveEditor(); // closes it without taking its text; no other one follows
 
     // Tab moves on once the event loop is done with the old editor. This moves at once, and gives
     // false when no move was waiting.

@@ -17,7 +17,6 @@
 
 #include <QCloseEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -57,11 +56,14 @@ MainWindow::MainWindow(AppState *appState, QWidget *parent)
     m_statusBar->setObjectName(u"statusBar"_s);
     setStatusBar(m_statusBar);
     connectChanges();
+    connectSync();
+    connectSignIn();
     applyTheme();
     postDueRecurring(); // before the list, which then sums the balances once
     populateAccountList();
     watchDueCount();
     restoreInitialView();
+    openAccountAfterFirstSync();
 }
 
 void MainWindow::restoreWindowGeometry()
@@ -75,8 +77,6 @@ void MainWindow::buildPages()
 {
     m_welcomeScreen = new WelcomeScreen(this);
     m_welcomeScreen->setObjectName(u"welcomeScreen"_s);
-    // There is no account client to sign in with, and a button that does nothing would mislead.
-    m_welcomeScreen->findChild<QPushButton *>(u"signInButton"_s)->hide();
     m_registerScreen = new RegisterScreen(m_appState, this);
     m_registerScreen->setObjectName(u"registerScreen"_s);
     m_emptyPage = new EmptyPage(this);
@@ -214,12 +214,6 @@ void MainWindow::restoreInitialView()
         showNothingOpen();
     else
         selectAccount(accounts.first().id);
-}
-
-// Nobody is signed in, so it is the page for newcomers and not the empty page.
-void MainWindow::showNothingOpen()
-{
-    m_stack->setCurrentWidget(m_welcomeScreen);
 }
 
 void MainWindow::selectAccount(const QString &accountId)

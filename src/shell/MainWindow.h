@@ -44,6 +44,7 @@ public Q_SLOTS:
     void onAccountContextMenu(QPoint pos); // in the list's viewport
     void deleteAccount(const QString &accountId);
     void deleteCurrentAccount();
+    void showKestrelwoodAccountScreen();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -57,6 +58,12 @@ private:
     void postDueRecurring();
     void watchDueCount();
     void showDueCount();
+
+    void connectSignIn();
+    void connectSync();
+    void openAccountAfterFirstSync();
+    void updateAuthUI();
+    void showWelcomeScreen();
 
     void buildMenus();
     void buildFileMenu();
@@ -99,6 +106,8 @@ private:
     EmptyPage *m_emptyPage = nullptr;
     QStackedWidget *m_stack = nullptr;
     StatusBar *m_statusBar = nullptr;
+    QAction *m_signOutAction = nullptr; // visible while signed in
+    QAction *m_accountAction = nullptr;
     QTimer m_populateTimer{}; // gathers the notifications of a bulk write
     QTimer m_dueCountTimer{}; // likewise
 };

@@ -4,6 +4,9 @@
 
 #include "core/Deployment.h"
 #include "core/Feedback.h"
+#include "core/state/AppState.h"
+#include "kestaccount/AuthClient.h"
+#include "kestaccount/Client.h"
 #include "register/RegisterScreen.h"
 #include "shell/FeedbackPage.h"
 
@@ -62,6 +65,13 @@ void MainWindow::buildFileMenu()
     QAction *import = addMenuAction(menu, u"importAction"_s, tr("&Import..."));
     import->setShortcut(QKeySequence(u"Ctrl+I"_s)); // the register's grid takes it for a new row
     connect(import, &QAction::triggered, this, &MainWindow::showImportWindow);
+    menu->addSeparator();
+    m_accountAction = addMenuAction(menu, u"accountAction"_s, tr("Kestrelwood &Account..."));
+    connect(m_accountAction, &QAction::triggered, this, &MainWindow::showKestrelwoodAccountScreen);
+    menu->addSeparator();
+    m_signOutAction = addMenuAction(menu, u"signOutAction"_s, tr("Sign &Out"));
+    connect(m_signOutAction, &QAction::triggered, m_appState->accountClient()->authClient(),
+            &KestAccount::AuthClient::logout);
     menu->addSeparator();
     QAction *quit = addMenuAction(menu, u"quitAction"_s, tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);

@@ -133,7 +133,6 @@ void MainWindowTest::startOpensWhatThereIs()
     shell.state()->setCurrentAccountId(lastViewed);
     shell.openWindow();
     QTEST(shell.opened(), "opened");
-    QVERIFY(!shell.find<QPushButton>(u"signInButton"_s)->isVisible());
 }
 
 void MainWindowTest::clickAndAltDigitsOpenAccounts()
@@ -255,7 +254,8 @@ void MainWindowTest::accessKeysAreUnique()
     for (const QMenu *menu : shell.openWindow()->menuBar()->findChildren<QMenu *>()) {
         QSet<QString> accessKeys;
         for (const QAction *action : menu->actions()) {
-            if (action->isSeparator())
+            // The two entries on accounts share their key: pressed again, it goes on to the other.
+            if (action->isSeparator() || action->objectName() == u"accountAction"_s)
                 continue;
             const QString key = QKeySequence::mnemonic(action->text()).toString();
             QVERIFY2(!key.isEmpty() && !accessKeys.contains(key), qPrintable(action->text()));

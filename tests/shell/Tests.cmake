@@ -4,6 +4,7 @@ target_precompile_headers(pursewell_state_fixture REUSE_FROM pursewell_test_supp
 
 pursewell_test(AppStateTest LABEL widget USES pursewell_state)
 pursewell_test(IndicatorStyleTest LABEL widget USES pursewell_theme)
+pursewell_test(AppStateSyncTest LABEL widget USES pursewell_state SOURCES SignedInSupport.cpp)
 pursewell_test(SmallWidgetsTest LABEL widget USES pursewell_shell)
 pursewell_test(MainWindowTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowAccountsTest LABEL widget
@@ -11,6 +12,8 @@ pursewell_test(MainWindowAccountsTest LABEL widget
 pursewell_test(MainWindowImportTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowReconcileTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowRecurringTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
+pursewell_test(MainWindowSignInTest LABEL widget
+  USES pursewell_shell SOURCES ShellFixture.cpp SignedInSupport.cpp)
 pursewell_test(ApplicationTest LABEL widget USES pursewell_application)
 target_compile_definitions(ApplicationTest PRIVATE PURSEWELL_PROGRAM="$<TARGET_FILE:pursewell>")
 add_dependencies(ApplicationTest pursewell)

@@ -49,6 +49,7 @@ TestEnvironment::TestEnvironment()
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // nor the keyring of the session
     qunsetenv("PURSEWELL_DEV");
     qunsetenv("PURSEWELL_VERBOSE");
 }

@@ -1,6 +1,8 @@
 #include "core/state/AppState.h"
 
 #include "core/Dates.h"
+#include "core/state/ServiceEndpoints.h"
+#include "core/state/SyncTriggers.h"
 #include "data/AccountRepository.h"
 #include "data/CategoryRepository.h"
 #include "data/DataDirectory.h"
@@ -10,12 +12,15 @@
 #include "data/RecurringRepository.h"
 #include "data/SplitLineRepository.h"
 #include "data/TransactionRepository.h"
+#include "kestaccount/ApiClient.h"
+#include "kestaccount/Client.h"
 #include "services/CategoryService.h"
 #include "services/ImportService.h"
 #include "services/RecurringService.h"
 #include "services/ReportService.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/ThemeManager.h"
+#include "sync/SyncEngine.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -47,9 +52,12 @@ bool AppState::initialize()
         new RecurringService(m_recurring, m_transactions, m_accounts, this, m_database);
     m_reportService = new ReportService(m_database, this);
     m_importService = new ImportService(m_transactions, m_categories, m_splitLines, this);
+    createSync();
     applyLook();
     readWeekStart();
     m_categoryService->seedDefaults();
+    restoreSession(this);
+    connectSyncTriggers(this);
     // Whether that account still exists is for the window to find out, which must cope with an
     // account that goes away later all the same.
     m_currentAccountId = m_preferences->getOr(kLastViewedAccountKey, {});
@@ -74,6 +82,20 @@ void AppState::createRepositories()
     m_splitLines = new SplitLineRepository(m_database, this);
     m_recurring = new RecurringRepository(m_database, this);
     m_reconciliations = new ReconciliationRepository(m_database, this);
+}
+
+void AppState::createSync()
+{
+    const ServiceEndpoints endpoints = serviceEndpoints();
+    qInfo() << "Auth:" << endpoints.account.authBaseUrl
+            << "Account:" << endpoints.account.accountApiUrl << "Sync:" << endpoints.syncApiUrl;
+    m_accountClient = new KestAccount::Client(endpoints.account, this);
+    KestAccount::ApiClient *syncApi = m_accountClient->syncApi();
+    syncApi->setBaseUrl(QUrl(endpoints.syncApiUrl));
+    m_syncEngine = new SyncEngine(syncApi, m_accounts, m_transactions, m_categories, m_recurring,
+                                  m_reconciliations, m_preferences, this);
+    m_syncEngine->setSignedInCheck(
+        [this] { return m_accountClient && m_accountClient->isAuthenticated(); });
 }
 
 void AppState::applyLook()

@@ -14,8 +14,13 @@ class RecurringRepository;
 class RecurringService;
 class ReportService;
 class SplitLineRepository;
+class SyncEngine;
 class ThemeManager;
 class TransactionRepository;
+
+namespace KestAccount {
+class Client;
+}
 
 // Creates and owns the database, the repositories and the services, through which all screens reach
 // them, and keeps the current account. The pointers are null until initialize.
@@ -43,6 +48,8 @@ public:
     RecurringService *recurringService() const { return m_recurringService; }
     ReportService *reportService() const { return m_reportService; }
     ImportService *importService() const { return m_importService; }
+    KestAccount::Client *accountClient() const { return m_accountClient; }
+    SyncEngine *syncEngine() const { return m_syncEngine; }
     ThemeManager *themeManager() const { return m_themeManager; }
 
     // Empty when none is selected. At start the one that was shown last, which may be gone by now.
@@ -56,6 +63,7 @@ Q_SIGNALS:
 private:
     bool openDatabase();
     void createRepositories();
+    void createSync();
     void applyLook();
     void readWeekStart();
 
@@ -71,6 +79,8 @@ private:
     RecurringService *m_recurringService = nullptr;
     ReportService *m_reportService = nullptr;
     ImportService *m_importService = nullptr;
+    KestAccount::Client *m_accountClient = nullptr;
+    SyncEngine *m_syncEngine = nullptr;
     ThemeManager *m_themeManager = nullptr;
     QString m_currentAccountId{};
 };

@@ -1,0 +1,1 @@
+pursewell_test(LocalServiceTest LABEL unit USES localservice)
