@@ -3,6 +3,7 @@
 #include "core/Dates.h"
 #include "core/Ids.h"
 #include "core/Money.h"
+#include "register/AccountTypeName.h"
 
 #include <QCalendarWidget>
 #include <QComboBox>
@@ -93,12 +94,10 @@ void AccountFormDialog::buildChoices()
 {
     m_type = new QComboBox(this);
     m_type->setObjectName(u"typeCombo"_s);
-    m_type->addItem(tr("Checking"), u"checking"_s);
-    m_type->addItem(tr("Savings"), u"savings"_s);
-    m_type->addItem(tr("Credit Card"), u"credit_card"_s);
-    m_type->addItem(tr("Cash"), u"cash"_s);
-    m_type->addItem(tr("Investment"), u"investment"_s);
-    m_type->addItem(tr("Other"), u"other"_s);
+    for (const AccountType type :
+         {AccountType::Checking, AccountType::Savings, AccountType::CreditCard, AccountType::Cash,
+          AccountType::Investment, AccountType::Other})
+        m_type->addItem(AccountTypeName::of(type), accountTypeToString(type));
 
     m_currency = new QComboBox(this);
     m_currency->setObjectName(u"currencyCombo"_s);

@@ -13,7 +13,6 @@
 #include "register/TransactionFormDialog.h"
 #include "screens/ReconciliationModel.h"
 #include "screens/ReconciliationSummary.h"
-#include "screens/TickDelegate.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/ThemeManager.h"
 
@@ -154,7 +153,6 @@ void ReconciliationScreen::buildTable()
 {
     m_table->setObjectName(u"transactionTable"_s);
     m_table->setModel(m_model);
-    m_table->setItemDelegateForColumn(ReconciliationModel::Tick, new TickDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection); // the buttons take one row
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);

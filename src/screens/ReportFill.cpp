@@ -2,6 +2,7 @@
 
 #include "core/Money.h"
 #include "data/AccountType.h"
+#include "register/AccountTypeName.h"
 #include "screens/ReportTable.h"
 #include "screens/ScreenDates.h"
 
@@ -58,8 +59,9 @@ void ReportFill::show(ReportTable *table, const QList<AccountSummaryRow> &rows)
 {
     table->startRows(rows.size());
     for (const AccountSummaryRow &row : rows)
-        table->addRow({row.accountName, typeName(row.accountType), formatMoney(row.cleared),
-                       formatMoney(row.uncleared), formatMoney(row.total)});
+        table->addRow({row.accountName, AccountTypeName::of(accountTypeFromString(row.accountType)),
+                       formatMoney(row.cleared), formatMoney(row.uncleared),
+                       formatMoney(row.total)});
     table->finishRows();
 }
 
@@ -77,23 +79,4 @@ void ReportFill::show(ReportTable *table, const QList<TransactionReportRow> &row
                        formatMoney(row.amount)});
     }
     table->finishRows();
-}
-
-QString ReportFill::typeName(const QString &storedWord)
-{
-    switch (accountTypeFromString(storedWord)) {
-    case AccountType::Checking:
-        return tr("Checking");
-    case AccountType::Savings:
-        return tr("Savings");
-    case AccountType::CreditCard:
-        return tr("Credit Card");
-    case AccountType::Cash:
-        return tr("Cash");
-    case AccountType::Investment:
-        return tr("Investment");
-    case AccountType::Other:
-        break;
-    }
-    return tr("Other");
 }

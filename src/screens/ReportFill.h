@@ -20,7 +20,4 @@ public:
     static void show(ReportTable *table, const QList<YearOverYearRow> &rows);
     static void show(ReportTable *table, const QList<AccountSummaryRow> &rows);
     static void show(ReportTable *table, const QList<TransactionReportRow> &rows);
-
-private:
-    static QString typeName(const QString &storedWord);
 };

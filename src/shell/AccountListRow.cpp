@@ -2,6 +2,7 @@
 
 #include "core/Money.h"
 #include "data/Account.h"
+#include "register/AccountTypeName.h"
 #include "shell/theme/BalanceLabel.h"
 #include "shell/theme/ElidedLabel.h"
 #include "shell/theme/FontRoles.h"
@@ -104,27 +105,9 @@ AccountListRow::AccountListRow(const Account &account, qint64 balance, QWidget *
 
 QString AccountListRow::describe(const Account &account)
 {
-    const QString place = account.institution.isEmpty() ? typeName(account) : account.institution;
+    const QString place = account.institution.isEmpty() ? AccountTypeName::of(account.account_type)
+                                                        : account.institution;
     if (account.account_number_last4.isEmpty())
         return place;
     return place + u"  ·  *%1"_s.arg(account.account_number_last4);
-}
-
-QString AccountListRow::typeName(const Account &account)
-{
-    switch (account.account_type) {
-    case AccountType::Checking:
-        return tr("Checking");
-    case AccountType::Savings:
-        return tr("Savings");
-    case AccountType::CreditCard:
-        return tr("Credit Card");
-    case AccountType::Cash:
-        return tr("Cash");
-    case AccountType::Investment:
-        return tr("Investment");
-    case AccountType::Other:
-        break;
-    }
-    return tr("Other");
 }

@@ -14,6 +14,5 @@ public:
     AccountListRow(const Account &account, qint64 balance, QWidget *parent = nullptr);
 
 private:
-    static QString typeName(const Account &account);
     static QString describe(const Account &account);
 };
