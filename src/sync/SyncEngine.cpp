@@ -77,6 +77,12 @@ void SyncEngine::syncNow()
         m_syncQueued = true;
         return;
     }
+    // An import lets events through. What it has written so far may yet be rolled back, and must
+    // not be on the service by then.
+    if (m_repositories.transactions->isBulkWriting()) {
+        scheduleSync();
+        return;
+    }
     m_syncQueued = false;
     setState(SyncState::Syncing);
     collectPendingChanges();

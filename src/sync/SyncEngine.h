@@ -48,7 +48,7 @@ public:
     void startAutoSync(int intervalMs); // starts with a pass at once
     void stopAutoSync(); // does not cancel a running pass
     void scheduleSync(); // one pass, kDebounceMs after the last call
-    void syncNow(); // or one further pass after the running one
+    void syncNow(); // or one further pass after the running one; an import is waited for
 
     SyncState state() const { return m_state; }
     QString lastError() const { return m_lastError; }

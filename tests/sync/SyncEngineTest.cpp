@@ -1,6 +1,7 @@
 #include "sync/SyncEngine.h"
 
 #include "SyncRig.h"
+#include "data/BulkWrite.h"
 #include "kestaccount/MemoryTokenStore.h"
 #include "support/FakeHttpService.h"
 #include "support/SampleRecords.h"
@@ -80,6 +81,7 @@ private Q_SLOTS:
     void marksWhatWasAccepted();
     void burstsBecomeOnePass();
     void queuesOnePass();
+    void waitsForABulkWrite();
     void keepsItsTimersGoing();
     void sendsNothingWhenNobodyIsSignedIn();
     void reportsAuthentication();
@@ -225,6 +227,20 @@ void SyncEngineTest::queuesOnePass()
     QVERIFY(m_rig->runPass());
     QVERIFY(m_rig->runPass());
     QCOMPARE(takeRequests().size(), 3);
+}
+
+// It may be rolled back yet.
+void SyncEngineTest::waitsForABulkWrite()
+{
+    addPending(u"a"_s);
+    {
+        const BulkWrite together(&m_database->transactions);
+        m_rig->engine().syncNow();
+        QCOMPARE(m_rig->engine().state(), SyncEngine::SyncState::Idle);
+        QVERIFY(m_rig->timer(true)->isActive());
+    }
+    QVERIFY(m_rig->runPass());
+    QCOMPARE(takeRequests(), QStringList({kPush, kPull}));
 }
 
 void SyncEngineTest::keepsItsTimersGoing()
