@@ -1,3 +1,4 @@
+#include "BackupBenches.h"
 #include "ImportBenches.h"
 #include "PairedBench.h"
 #include "ParseBenches.h"
@@ -48,10 +49,11 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(u"Kestrelwood"_s);
     QCoreApplication::setApplicationName(u"Pursewell"_s);
-    if (importOnce(argc - 1, argv + 1))
+    if (importOnce(argc - 1, argv + 1) || backupOnce(argc - 1, argv + 1))
         return 0;
     benchmark::Initialize(&argc, argv);
-    registerImportBenches(); // before a bench that keeps the program's one connection
+    registerImportBenches(); // these two before a bench that keeps the program's one connection
+    registerBackupBenches();
     registerReportBenches();
     for (const auto shape : {BenchDatabase::Shape::TenAccounts, BenchDatabase::Shape::OneAccount}) {
         registerReadBenches(shape);

@@ -76,6 +76,18 @@ build_preset() {
   cmake --build --preset "$1"
 }
 
+build_local_service() {
+  cd -- "$repository_root"
+  step "configuring build/dev"
+  cmake --preset dev
+  step "building the local service"
+  cmake --build --preset dev --target pursewell-local-service
+}
+
+local_service_of() {
+  printf '%s/build/%s/tools/localservice/pursewell-local-service\n' "$repository_root" "$1"
+}
+
 # The program as build_preset <preset> left it.
 program_of() {
   printf '%s/build/%s/src/core/program/pursewell\n' "$repository_root" "$1"

@@ -10,6 +10,9 @@ stage=        # scratch directory: home, settings, data, logs
 program=      # the program under tour
 program_pid=
 program_log=program.log # in the stage
+local_service= # the program of it
+service_pid=
+service_address=
 picture_number=0
 
 # open_stage <program>: an empty home, a virtual display and a window manager on it.
@@ -26,6 +29,7 @@ open_stage() {
   export XDG_CACHE_HOME=$stage/cache XDG_RUNTIME_DIR=$stage/runtime
   export PURSEWELL_DATA_DIR=$stage/data
   export LANG=C.UTF-8 LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+  export UPDATE_BASE_URL=http://127.0.0.1:9/ # nobody answers there: no release is offered
   # No keyring either; unset, a bus would be started for the display and outlive it.
   export DBUS_SESSION_BUS_ADDRESS=disabled:
   unset WAYLAND_DISPLAY XAUTHORITY SESSION_MANAGER
@@ -157,6 +161,24 @@ kill_program() {
   kill -9 "$program_pid"
   wait "$program_pid" 2>/dev/null || true
   program_pid=
+}
+
+# --- the local service -----------------------------------------------------------------------------
+
+# start_local_service <option>...: its address goes to service_address.
+start_local_service() {
+  rm -f "$stage/service.address" # of an earlier one
+  "$local_service" "$@" >"$stage/service.address" 2>"$stage/service.log" &
+  service_pid=$!
+  wait_until 20 "the local service" test -s "$stage/service.address"
+  # shellcheck disable=SC2034 # read by the chapters
+  service_address=$(<"$stage/service.address")
+}
+
+stop_local_service() {
+  kill "$service_pid"
+  wait "$service_pid" || fail "the service did not end well"
+  service_pid=
 }
 
 # --- windows, keys and the mouse -----------------------------------------------------------------

@@ -20,3 +20,7 @@ inline constexpr QLatin1StringView kAccountApiUrl{
     "https://account.kestrelwood.example/account/v1"};
 inline constexpr QLatin1StringView kSyncApiUrl{"https://sync.kestrelwood.example/pursewell/v1"};
 inline constexpr QLatin1StringView kAccountPortalUrl{"https://account.kestrelwood.example/"};
+
+// Where the manifest of the newest release lies.
+inline constexpr QLatin1StringView kUpdateUrl{
+    "https://downloads.kestrelwood.example/pursewell/stable/"};

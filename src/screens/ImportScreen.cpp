@@ -6,9 +6,9 @@
 #include "data/AccountRepository.h"
 #include "register/AccountCreation.h"
 #include "screens/CsvMappingForm.h"
-#include "screens/ImportProgressDialog.h"
 #include "screens/ImportSummary.h"
 #include "screens/QifMappingForm.h"
+#include "screens/WorkProgressDialog.h"
 #include "services/ImportService.h"
 #include "shell/theme/ElidedLabel.h"
 #include "shell/theme/FontRoles.h"
@@ -243,7 +243,7 @@ void ImportScreen::selectQifFiles()
 
 void ImportScreen::analyze()
 {
-    const ImportProgressDialog progress(tr("Analyzing QIF file(s)..."), kAnalysisDelayMs, this);
+    const WorkProgressDialog progress(tr("Analyzing QIF file(s)..."), kAnalysisDelayMs, this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // paints the file's name
     const QifAnalysis analysis = m_appState->importService()->analyzeQifFiles(m_selectedFiles);
     m_qifForm->showSources(analysis.sources, m_appState->accounts()->listActive());
@@ -298,7 +298,7 @@ QString ImportScreen::createTargetAccount()
 ImportResult ImportScreen::importChosenFiles(const QString &csvAccountId)
 {
     ImportService *service = m_appState->importService();
-    ImportProgressDialog progress(tr("Importing..."), kImportDelayMs, this);
+    WorkProgressDialog progress(tr("Importing..."), kImportDelayMs, this);
     connect(service, &ImportService::importStarted, &progress, &QProgressDialog::setMaximum);
     connect(service, &ImportService::importProgress, &progress, &QProgressDialog::setValue);
     if (isQif())

@@ -27,6 +27,8 @@ class ImportScreen : public QWidget
 public:
     explicit ImportScreen(AppState *appState, QWidget *parent = nullptr); // not owned
 
+    void reloadAccounts(); // keeps the chosen one; none is chosen if it is gone
+
 Q_SIGNALS:
     void importCompleted(); // the person has seen the result
 
@@ -47,7 +49,6 @@ private:
 
     bool isQif() const;
     void clearSelection();
-    void reloadAccounts(); // keeps the chosen one; none is chosen if it is gone
     void selectQifFiles();
     void selectCsvFile();
     void showFileName(const QString &text, const QStringList &paths);

@@ -216,12 +216,22 @@ void ReconciliationScreen::startForAccount(const QString &accountId)
     const std::optional<Account> account = m_appState->accounts()->findById(accountId);
     if (!account)
         return;
-    readSettledPart(*account);
+    proposeStatementDate(readSettledPart(*account));
     m_model->setTransactions({}); // the ticks of an earlier run
     loadTransactions();
 }
 
-void ReconciliationScreen::readSettledPart(const Account &account)
+void ReconciliationScreen::reload()
+{
+    const std::optional<Account> account = m_appState->accounts()->findById(m_accountId);
+    if (!account)
+        return;
+    readSettledPart(*account);
+    loadTransactions();
+    updateDifference();
+}
+
+QDate ReconciliationScreen::readSettledPart(const Account &account)
 {
     m_previousBalance = account.starting_balance;
     QDate latest;
@@ -231,8 +241,13 @@ void ReconciliationScreen::readSettledPart(const Account &account)
         m_previousBalance = addMoney(m_previousBalance, transaction.amount);
         latest = std::max(latest, transaction.date); // an invalid date comes before all others
     }
-    const QDate next =
-        nextStatementDate(m_appState->reconciliations()->latestForAccount(account.id), latest);
+    return latest;
+}
+
+void ReconciliationScreen::proposeStatementDate(QDate latestSettled)
+{
+    const QDate next = nextStatementDate(
+        m_appState->reconciliations()->latestForAccount(m_accountId), latestSettled);
     if (next.isValid())
         m_statementDate->setDate(next);
 }

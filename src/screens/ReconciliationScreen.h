@@ -28,6 +28,9 @@ public:
     // Begins a run from what is stored; does nothing for an unknown account.
     void startForAccount(const QString &accountId);
 
+    // What is stored anew, after it changed from elsewhere; the ticks and the figures typed stay.
+    void reload();
+
 Q_SIGNALS:
     void reconciliationCompleted(); // after the person has seen the message
     void cancelled();
@@ -53,7 +56,8 @@ private:
     void addShortcut(const QList<QKeySequence> &keys, void (ReconciliationScreen::*slot)());
     void fitColumns();
 
-    void readSettledPart(const Account &account);
+    QDate readSettledPart(const Account &account); // the latest day in it
+    void proposeStatementDate(QDate latestSettled);
     void loadTransactions();
     const Transaction *selectedTransaction() const; // null if there is none
     bool confirmDelete(const Transaction &transaction);
@@ -64,7 +68,7 @@ private:
 
     AppState *m_appState;
     QString m_accountId;
-    qint64 m_previousBalance = 0; // minor units, fixed for the run
+    qint64 m_previousBalance = 0; // minor units, of what is settled already
     ReconciliationModel *m_model;
     DateField *m_statementDate;
     SmartAmountField *m_statementBalance;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestaccount/AccountScreen.h"
+
 #include <QList>
 #include <QMainWindow>
 #include <QTimer>
@@ -37,14 +39,17 @@ public Q_SLOTS:
     void showRecurringWindow();
     void showSearchWindow();
     void showCategoriesWindow();
+    void showSettingsWindow();
     void showReconciliationWindow();
     void showReconciliationHistoryWindow();
     void showImportWindow();
     void showPayeesWindow();
+    void showShareAccountDialog();
     void onAccountContextMenu(QPoint pos); // in the list's viewport
     void deleteAccount(const QString &accountId);
     void deleteCurrentAccount();
-    void showKestrelwoodAccountScreen();
+    void showKestrelwoodAccountScreen(KestAccount::AccountScreen::Tab tab);
+    void showKestrelwoodAccountScreen(); // its first page
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -73,6 +78,8 @@ private:
     void buildHelpMenu();
     void addSampleDataEntries(QMenu *menu);
     QAction *addMenuAction(QMenu *menu, const QString &name, const QString &text);
+    void showWhatsNew();
+    void checkForUpdates();
     void showAboutBox();
     void showShortcutsBox();
 
@@ -87,13 +94,17 @@ private:
 
     void presentWindow(QWidget *window, const QString &title, QSize size);
     void restoreInitialView();
-    void onImportCompleted();
+    void reloadEverything();
+    void reloadOpenWindows();
+    void reloadReconciliations();
     void showNothingOpen();
     void showSelectAccountFirst();
     bool confirmDelete(const Account &account);
     bool deleteWithDependents(const QString &accountId);
     void loadSampleData();
     void clearSampleData();
+    void shareAccount(const Account &account);
+    void explainSharing();
     void showSampleDataNotice(const QString &text);
 
     AppState *m_appState;

@@ -154,6 +154,11 @@ void MainWindow::addAccountEntries(QMenu *menu, const QString &accountId)
         showPayeesWindow();
     });
     menu->addSeparator();
+    menu->addAction(tr("Share..."), this, [this, accountId] {
+        selectAccount(accountId);
+        showShareAccountDialog();
+    });
+    menu->addSeparator();
     menu->addAction(tr("Delete \"%1\"").arg(name), this,
                     [this, accountId] { deleteAccount(accountId); });
 }

@@ -5,10 +5,13 @@
 #include "core/Deployment.h"
 #include "core/Feedback.h"
 #include "core/state/AppState.h"
+#include "core/state/UpdateConfig.h"
 #include "kestaccount/AuthClient.h"
 #include "kestaccount/Client.h"
+#include "kestupdate/UpdateFlows.h"
 #include "register/RegisterScreen.h"
 #include "shell/FeedbackPage.h"
+#include "shell/StatusBar.h"
 
 #include <QAction>
 #include <QApplication>
@@ -29,6 +32,27 @@ QString linkTo(const QString &address)
 {
     return u"<a href=\"%1\" style=\"color: %2\">%1</a>"_s.arg(
         address, QGuiApplication::palette().color(QPalette::Highlight).name());
+}
+
+KestUpdate::ProgressCallbacks progressOn(QPointer<StatusBar> statusBar)
+{
+    return {
+        .showProgress =
+            [statusBar](const QString &text) {
+                if (statusBar)
+                    statusBar->showProgress(text);
+            },
+        .clearProgress =
+            [statusBar] {
+                if (statusBar)
+                    statusBar->clearProgress();
+            },
+        .showMessage =
+            [statusBar](const QString &text, int timeoutMs) {
+                if (statusBar)
+                    statusBar->showTimedMessage(text, timeoutMs);
+            },
+    };
 }
 
 } // namespace
@@ -67,7 +91,8 @@ void MainWindow::buildFileMenu()
     connect(import, &QAction::triggered, this, &MainWindow::showImportWindow);
     menu->addSeparator();
     m_accountAction = addMenuAction(menu, u"accountAction"_s, tr("Kestrelwood &Account..."));
-    connect(m_accountAction, &QAction::triggered, this, &MainWindow::showKestrelwoodAccountScreen);
+    m_accountAction->setStatusTip(tr("Sign in or sign up"));
+    connect(m_accountAction, &QAction::triggered, this, [this] { showKestrelwoodAccountScreen(); });
     menu->addSeparator();
     m_signOutAction = addMenuAction(menu, u"signOutAction"_s, tr("Sign &Out"));
     connect(m_signOutAction, &QAction::triggered, m_appState->accountClient()->authClient(),
@@ -85,6 +110,9 @@ void MainWindow::buildEditMenu()
     QAction *find = addMenuAction(menu, u"findAction"_s, tr("&Find..."));
     find->setShortcut(QKeySequence::Find);
     connect(find, &QAction::triggered, this, &MainWindow::showSearchWindow);
+    menu->addSeparator();
+    connect(addMenuAction(menu, u"preferencesAction"_s, tr("&Preferences...")), &QAction::triggered,
+            this, &MainWindow::showSettingsWindow);
 }
 
 void MainWindow::buildAccountMenu()
@@ -100,6 +128,9 @@ void MainWindow::buildAccountMenu()
             &QAction::triggered, this, &MainWindow::showReconciliationHistoryWindow);
     connect(addMenuAction(menu, u"payeesAction"_s, tr("Rename &Payees...")), &QAction::triggered,
             this, &MainWindow::showPayeesWindow);
+    menu->addSeparator();
+    connect(addMenuAction(menu, u"shareAccountAction"_s, tr("&Share...")), &QAction::triggered,
+            this, &MainWindow::showShareAccountDialog);
     menu->addSeparator();
     connect(addMenuAction(menu, u"deleteAccountAction"_s, tr("&Delete")), &QAction::triggered, this,
             &MainWindow::deleteCurrentAccount);
@@ -126,6 +157,10 @@ void MainWindow::buildHelpMenu()
     menu->setObjectName(u"helpMenu"_s);
     connect(addMenuAction(menu, u"aboutAction"_s, tr("&About Kestrelwood Pursewell")),
             &QAction::triggered, this, &MainWindow::showAboutBox);
+    connect(addMenuAction(menu, u"whatsNewAction"_s, tr("What's &New...")), &QAction::triggered,
+            this, &MainWindow::showWhatsNew);
+    connect(addMenuAction(menu, u"checkForUpdatesAction"_s, tr("Check for &Updates...")),
+            &QAction::triggered, this, &MainWindow::checkForUpdates);
     connect(addMenuAction(menu, u"feedbackAction"_s, tr("Send &Feedback...")), &QAction::triggered,
             this, [] { openFeedbackPage(feedbackConfig()); });
     menu->addSeparator();
@@ -142,6 +177,17 @@ void MainWindow::addSampleDataEntries(QMenu *menu)
             &QAction::triggered, this, &MainWindow::loadSampleData);
     connect(addMenuAction(menu, u"clearSampleDataAction"_s, tr("&Clear Sample Data")),
             &QAction::triggered, this, &MainWindow::clearSampleData);
+}
+
+// Both ask the network at a person's word, and so both always answer.
+void MainWindow::showWhatsNew()
+{
+    KestUpdate::showReleaseNotes(updateClientConfig(), kDisplayName, this, progressOn(m_statusBar));
+}
+
+void MainWindow::checkForUpdates()
+{
+    KestUpdate::runUpdateCheck(updateClientConfig(), kDisplayName, this, progressOn(m_statusBar));
 }
 
 void MainWindow::showAboutBox()

@@ -46,6 +46,7 @@ void MainWindow::connectSync()
     connect(engine, &SyncEngine::dataChanged, this, [this] {
         populateAccountList();
         m_registerScreen->refresh();
+        reloadReconciliations();
     });
 }
 
@@ -62,7 +63,6 @@ void MainWindow::updateAuthUI()
 {
     const bool isSignedIn = m_appState->accountClient()->isAuthenticated();
     m_signOutAction->setVisible(isSignedIn);
-    m_accountAction->setVisible(!isSignedIn); // there is no window to manage the account yet
     m_accountAction->setStatusTip(isSignedIn ? tr("Manage your account")
                                              : tr("Sign in or sign up"));
     if (!isSignedIn) {
@@ -78,12 +78,6 @@ void MainWindow::updateAuthUI()
         m_stack->setCurrentWidget(m_emptyPage);
     else
         selectAccount(m_appState->currentAccountId());
-}
-
-void MainWindow::showKestrelwoodAccountScreen()
-{
-    if (!m_appState->accountClient()->isAuthenticated())
-        showWelcomeScreen();
 }
 
 void MainWindow::showNothingOpen()

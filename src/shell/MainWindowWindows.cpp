@@ -14,6 +14,7 @@
 #include "screens/RecurringScreen.h"
 #include "screens/ReportsScreen.h"
 #include "screens/SearchScreen.h"
+#include "shell/SettingsScreen.h"
 
 #include <QPointer>
 
@@ -133,19 +134,49 @@ void MainWindow::showImportWindow()
     QPointer<ImportScreen> &screen = screenOf<ImportScreen>();
     if (!screen) {
         screen = new ImportScreen(m_appState);
-        connect(screen, &ImportScreen::importCompleted, this, &MainWindow::onImportCompleted);
+        connect(screen, &ImportScreen::importCompleted, this, &MainWindow::reloadEverything);
     }
     presentWindow(screen, tr("Import Transactions"), {650, 600});
 }
 
-void MainWindow::onImportCompleted()
+// After work that may have touched every table without telling row by row.
+void MainWindow::reloadEverything()
 {
-    // A person's first import may have brought the first accounts.
+    // It may have brought the first accounts.
     if (m_appState->currentAccountId().isEmpty())
         restoreInitialView();
     else
         m_registerScreen->refresh();
     populateAccountList();
+    showDueCount();
+    reloadOpenWindows();
+}
+
+void MainWindow::reloadOpenWindows()
+{
+    if (const auto &screen = screenOf<CategoriesScreen>(); screen && screen->isVisible())
+        screen->reloadTree();
+    if (const auto &screen = screenOf<RecurringScreen>(); screen && screen->isVisible())
+        screen->refresh();
+    if (const auto &screen = screenOf<PayeeScreen>(); screen && screen->isVisible())
+        screen->refresh();
+    if (const auto &screen = screenOf<ReportsScreen>(); screen && screen->isVisible())
+        screen->refresh();
+    if (const auto &screen = screenOf<SearchScreen>(); screen && screen->isVisible())
+        screen->reloadFilters();
+    if (const auto &screen = screenOf<ReconciliationHistoryScreen>(); screen && screen->isVisible())
+        screen->refresh();
+    if (const auto &screen = screenOf<ImportScreen>(); screen && screen->isVisible())
+        screen->reloadAccounts();
+    reloadReconciliations();
+}
+
+// A run would write what it read at its start over what has come since.
+void MainWindow::reloadReconciliations()
+{
+    const QList<ReconciliationScreen *> screens = findChildren<ReconciliationScreen *>();
+    for (ReconciliationScreen *screen : screens)
+        screen->reload();
 }
 
 void MainWindow::showCategoriesWindow()
@@ -155,6 +186,18 @@ void MainWindow::showCategoriesWindow()
         screen = new CategoriesScreen(m_appState);
     screen->reloadTree();
     presentWindow(screen, tr("Categories"), {600, 500});
+}
+
+void MainWindow::showSettingsWindow()
+{
+    QPointer<SettingsScreen> &screen = screenOf<SettingsScreen>();
+    if (!screen) {
+        screen = new SettingsScreen(m_appState);
+        connect(screen, &SettingsScreen::deletedAccountRestored, this,
+                &MainWindow::reloadEverything);
+    }
+    screen->refresh();
+    presentWindow(screen, tr("Preferences"), {500, 550});
 }
 
 void MainWindow::showPayeesWindow()

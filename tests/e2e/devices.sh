@@ -2,9 +2,6 @@
 # Two devices of one user and the service between them. Sourced by two-devices after the hands of
 # the tour, which it lends a second pair of.
 
-# shellcheck disable=SC2034 # read by the sourcing script
-service_pid=
-service_address=
 device=
 log_mark=0
 declare -A running=() # the process of each device
@@ -12,10 +9,9 @@ declare -A running=() # the process of each device
 # --- the service and the browser -----------------------------------------------------------------
 
 start_service() {
-  "$1" --database "$stage/service.db" >"$stage/service.address" 2>"$stage/service.log" &
-  service_pid=$!
-  wait_until 20 "the service" test -s "$stage/service.address"
-  service_address=$(<"$stage/service.address")
+  # shellcheck disable=SC2034 # read by lib/tour.sh
+  local_service=$1
+  start_local_service --database "$stage/service.db"
   export AUTH_BASE_URL=$service_address ACCOUNT_API_URL=$service_address/account/v1
   export SYNC_API_URL=$service_address/pursewell/v1
 }
@@ -40,7 +36,7 @@ exec >>"$BROWSER_LOG" 2>&1
 set -ex
 visit() { curl --silent --show-error --fail --max-time 20 "$@"; }
 visit "$1" | grep -q '<form method="post">'
-visit --location --data email=ann@example.com --data password=secret "$1" \
+visit --location --data "email=${BROWSER_USER:-ann}@example.com" --data password=secret "$1" \
   | grep -q 'Authentication complete'
 SH
   chmod +x "$stage/bin/xdg-open"

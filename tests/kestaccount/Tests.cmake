@@ -1,4 +1,5 @@
 pursewell_test(AccountClientTest LABEL unit USES kestaccount)
+pursewell_test(AccountScreenTest LABEL widget USES kestaccount)
 pursewell_test(ApiClientTest LABEL unit USES kestaccount)
 pursewell_test(AuthClientTest LABEL unit USES kestaccount)
 pursewell_test(TokenManagerTest LABEL unit USES kestaccount)

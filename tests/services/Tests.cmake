@@ -1,3 +1,8 @@
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip)
+
+pursewell_test(BackupServiceTest LABEL unit
+  USES pursewell_services pursewell_test_database PkgConfig::libzip)
 pursewell_test(CategoryServiceTest LABEL unit USES pursewell_services pursewell_test_database)
 pursewell_test(CsvImportTest LABEL unit USES pursewell_services pursewell_test_database)
 pursewell_test(CsvReaderTest LABEL unit USES pursewell_services)

@@ -2,6 +2,7 @@
 
 #include "data/DataDirectory.h"
 #include "support/DialogAnswer.h"
+#include "support/FakeHttpService.h"
 #include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
@@ -31,7 +32,7 @@ private Q_SLOTS:
     void languageIsChosen();
     void identityAndResourcesStand();
     void unusableDirectoryIsReported();
-    void windowOpensAndTheLastOneEndsTheRun();
+    void windowOpensAsksForNewsAndEndsTheRun();
 
 private:
     // A process that writes a line of each kind to the log, and its language to its output.
@@ -121,13 +122,24 @@ void ApplicationTest::unusableDirectoryIsReported()
     QVERIFY2(text.contains(u"\n\nData directory: %1\n\n"_s.arg(kUnusable)), qPrintable(text));
 }
 
-void ApplicationTest::windowOpensAndTheLastOneEndsTheRun()
+void ApplicationTest::windowOpensAsksForNewsAndEndsTheRun()
 {
     const QTemporaryDir directory;
     qputenv("PURSEWELL_DATA_DIR", directory.path().toUtf8());
-    QTimer::singleShot(0, qApp, &QApplication::closeAllWindows);
+    FakeHttpService service;
+    qputenv("UPDATE_BASE_URL", service.url(u"/pursewell/stable/"_s).toEncoded());
+    const QDeadlineTimer deadline(20000);
+    QTimer looking;
+    connect(&looking, &QTimer::timeout, this, [&service, &deadline] {
+        if (service.requestLines().contains(u"GET /pursewell/stable/latest.json"_s)
+            || deadline.hasExpired())
+            QApplication::closeAllWindows();
+    });
+    looking.start(20);
     QCOMPARE(qobject_cast<Application *>(qApp)->run(), 0);
     QVERIFY(QFile::exists(databasePath()));
+    QVERIFY(service.requestLines().contains(u"GET /pursewell/1.0.10/release-notes.md"_s));
+    QVERIFY(!deadline.hasExpired());
 }
 
 int main(int argc, char *argv[])

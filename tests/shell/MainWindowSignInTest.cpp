@@ -57,6 +57,9 @@ private Q_SLOTS:
     void statusBarTellsOfTheSync();
     void firstSyncOpensAnAccount();
     void pulledRowsSpareWhatIsBeingTyped();
+    void sharingAsksForASignIn();
+    void sharesTheAccountThatIsOpen();
+    void accountWindowComesBackAtItsFirstTab();
 
 private:
     AuthClient *auth() const { return m_shell->state()->accountClient()->authClient(); }
@@ -230,6 +233,58 @@ void MainWindowSignInTest::pulledRowsSpareWhatIsBeingTyped()
                          "(SELECT * FROM transactions ORDER BY amount)"_s),
         u"Pulled-500,Half typed101-200"_s);
     QCOMPARE(model->rowCount(), 3);
+}
+
+void MainWindowSignInTest::sharingAsksForASignIn()
+{
+    m_shell->openWindow();
+    m_shell->trigger(u"shareAccountAction"_s);
+    QCOMPARE(message(), u"Select an account first"_s);
+    m_shell->addAccount(u"Everyday"_s);
+    m_shell->openWindow()->selectAccount(u"Everyday"_s);
+    DialogAnswer answer(u"signInRequiredBox"_s, [](QDialog *box) {
+        const auto *learnMore = box->findChild<QPushButton *>(u"learnMoreButton"_s);
+        QVERIFY(learnMore->isDefault());
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    m_shell->trigger(u"shareAccountAction"_s);
+    QVERIFY(answer.wasAsked());
+    QCOMPARE(page(), u"welcomeScreen"_s); // where one signs in
+}
+
+void MainWindowSignInTest::sharesTheAccountThatIsOpen()
+{
+    const QString name = u"%1 & <b>Co"_s;
+    m_shell->addAccount(name);
+    signIn(*m_shell->state());
+    m_shell->openWindow()->selectAccount(name);
+    DialogAnswer answer(u"shareMembersDialog"_s, [&name](QDialog *dialog) {
+        QCOMPARE(dialog->windowTitle(), u"Share Account"_s);
+        QStringList texts;
+        for (const QLabel *label : dialog->findChildren<QLabel *>())
+            texts << label->text();
+        QVERIFY2(texts.contains(u"Sharing: "_s + name), qPrintable(texts.join(u'\n')));
+    });
+    m_shell->trigger(u"shareAccountAction"_s);
+    QVERIFY(answer.wasAsked());
+    QTRY_VERIFY(m_service->requestLines().filter(u"/pursewell/v1/accounts/"_s).size() == 1);
+}
+
+void MainWindowSignInTest::accountWindowComesBackAtItsFirstTab()
+{
+    signIn(*m_shell->state());
+    m_shell->openWindow();
+    m_shell->trigger(u"accountAction"_s);
+    auto *screen = m_shell->find<KestAccount::AccountScreen>(u"accountScreen"_s);
+    QVERIFY(screen->isVisible());
+    auto *navigation = screen->findChild<QListWidget *>(u"navigation"_s);
+    navigation->setCurrentRow(3);
+    screen->close();
+    m_shell->trigger(u"accountAction"_s);
+    QVERIFY(screen->isVisible());
+    QCOMPARE(navigation->currentRow(), 0);
+    Q_EMIT screen->logoutRequested();
+    QCOMPARE(page(), u"welcomeScreen"_s);
 }
 
 PURSEWELL_TEST_MAIN(MainWindowSignInTest)

@@ -6,6 +6,7 @@
 #include "shell/StatusBar.h"
 #include "shell/WelcomeScreen.h"
 #include "shell/theme/ThemeManager.h"
+#include "support/FakeHttpService.h"
 #include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
@@ -51,6 +52,8 @@ private Q_SLOTS:
     void accessKeysAreUnique();
     void boxesTellKeysAndVersion();
     void feedbackOpensThePage();
+    void helpEntriesAnswerInTheStatusBar_data();
+    void helpEntriesAnswerInTheStatusBar();
 
 private:
     QUrl m_openedUrl;
@@ -295,6 +298,34 @@ void MainWindowTest::feedbackOpensThePage()
     QDesktopServices::unsetUrlHandler(u"https"_s);
     QCOMPARE(m_openedUrl.query(), u"tags=pursewell"_s);
     QVERIFY(m_openedUrl.path().endsWith(u'/'));
+}
+
+void MainWindowTest::helpEntriesAnswerInTheStatusBar_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("progress");
+    QTest::addColumn<QString>("answer");
+    QTest::newRow("updates") << u"checkForUpdatesAction"_s << u"Checking for updates…"_s
+                             << u"Kestrelwood Pursewell is up to date (version 1.0.10)"_s;
+    QTest::newRow("notes") << u"whatsNewAction"_s << u"Loading release notes…"_s
+                           << u"No release notes available for Kestrelwood Pursewell 1.0.10"_s;
+}
+
+void MainWindowTest::helpEntriesAnswerInTheStatusBar()
+{
+    QFETCH(QString, action);
+    const FakeHttpService service; // has nothing
+    qputenv("UPDATE_BASE_URL", service.url(u"/pursewell/stable/"_s).toEncoded());
+    ShellFixture shell;
+    shell.openWindow();
+    const QStatusBar *bar = shell.window()->statusBar();
+    shell.trigger(action);
+    QTEST(shell.labelText(u"progressLabel"_s), "progress");
+    QVERIFY(shell.find<QProgressBar>(u"progressBar"_s)->isVisible());
+    QFETCH(QString, answer);
+    QTRY_COMPARE(bar->currentMessage(), answer);
+    QVERIFY(!shell.find<QProgressBar>(u"progressBar"_s)->isVisible());
+    QVERIFY(!QSettings().contains("whatsNew/lastShownVersion"));
 }
 
 PURSEWELL_TEST_MAIN(MainWindowTest)

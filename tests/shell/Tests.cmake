@@ -5,6 +5,8 @@ target_precompile_headers(pursewell_state_fixture REUSE_FROM pursewell_test_supp
 pursewell_test(AppStateTest LABEL widget USES pursewell_state)
 pursewell_test(IndicatorStyleTest LABEL widget USES pursewell_theme)
 pursewell_test(AppStateSyncTest LABEL widget USES pursewell_state SOURCES SignedInSupport.cpp)
+pursewell_test(SettingsScreenTest LABEL widget
+  USES pursewell_shell pursewell_state_fixture SOURCES SignedInSupport.cpp)
 pursewell_test(SmallWidgetsTest LABEL widget USES pursewell_shell)
 pursewell_test(MainWindowTest LABEL widget USES pursewell_shell SOURCES ShellFixture.cpp)
 pursewell_test(MainWindowAccountsTest LABEL widget

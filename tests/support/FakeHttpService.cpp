@@ -69,6 +69,7 @@ void FakeHttpService::reply(QTcpSocket *socket, const FakeRequest &request)
         socket->abort();
         return;
     }
-    socket->write("HTTP/1.1 " + QByteArray::number(reply.status) + " Told\r\nContent-Length: "
-                  + QByteArray::number(reply.body.size()) + "\r\n\r\n" + reply.body);
+    socket->write("HTTP/1.1 " + QByteArray::number(reply.status) + " Told\r\n" + reply.headers
+                  + "Content-Length: " + QByteArray::number(reply.body.size()) + "\r\n\r\n"
+                  + reply.body);
 }

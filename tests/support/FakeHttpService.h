@@ -12,6 +12,7 @@ struct FakeReply
     QByteArray body{};
     bool drops = false; // closes the connection without an answer
     bool hangs = false; // never answers
+    QByteArray headers{}; // more of them, each with its line end
 };
 
 struct FakeRequest

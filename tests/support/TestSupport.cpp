@@ -50,6 +50,7 @@ TestEnvironment::TestEnvironment()
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // nor the keyring of the session
+    qputenv("UPDATE_BASE_URL", "http://127.0.0.1:9/"); // where nobody answers
     qunsetenv("PURSEWELL_DEV");
     qunsetenv("PURSEWELL_VERBOSE");
 }

@@ -1,5 +1,6 @@
 find_package(SQLite3 REQUIRED)
 
+pursewell_test(AccountSharingTest LABEL widget USES pursewell_sync)
 pursewell_test(BadAnswersTest LABEL unit USES pursewell_sync pursewell_test_database
   SOURCES SyncRig.cpp)
 pursewell_test(SyncPayloadsTest LABEL unit USES pursewell_sync pursewell_test_database)

@@ -75,7 +75,11 @@ LocalService::LocalService(const QString &databasePath)
 {
     m_server->set_payload_max_length(kMaxBody);
     m_server->set_socket_options(setSocketOptions);
-    m_server->set_pre_routing_handler(refuseUnmeasured);
+    m_server->set_pre_routing_handler(
+        [this](const httplib::Request &request, httplib::Response &response) {
+            notePath(request);
+            return refuseUnmeasured(request, response);
+        });
     // One request a connection: none is cut off because it came when an idle one was being closed,
     // and nobody waits for idle ones when the service ends.
     m_server->set_keep_alive_max_count(1);
@@ -92,6 +96,11 @@ LocalService::LocalService(const QString &databasePath)
 LocalService::~LocalService()
 {
     stop();
+}
+
+bool LocalService::serveFiles(const QString &folder)
+{
+    return m_server->set_mount_point("/downloads", folder.toStdString());
 }
 
 bool LocalService::start(int port)
@@ -174,6 +183,11 @@ void LocalService::addControl()
                        if (!m_faults.setFrom(QJsonDocument::fromJson(body).object()))
                            response.status = 400;
                    });
+    m_server->Get("/control/requests",
+                  [this](const httplib::Request &, httplib::Response &response) {
+                      const std::lock_guard lock(m_mutex);
+                      response.set_content(m_paths.join(u'\n').toStdString() + '\n', "text/plain");
+                  });
 }
 
 void LocalService::addAuthRoutes()
@@ -325,7 +339,6 @@ void LocalService::route(const char *method, const std::string &pattern, bool ne
 void LocalService::serve(const httplib::Request &request, httplib::Response &response,
                          bool needsUser, const Handler &handler)
 {
-    notePath(request);
     const Fault fault = m_faults.next(QString::fromStdString(request.path));
     std::this_thread::sleep_for(std::chrono::milliseconds(fault.delay_ms));
     if (fault.kind == Fault::Kind::Status) {

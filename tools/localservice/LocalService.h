@@ -24,6 +24,9 @@ public:
     explicit LocalService(const QString &databasePath);
     ~LocalService(); // stops
 
+    // The folder's files below /downloads, read anew for each request. Before the start; false:
+    // there is no such folder.
+    bool serveFiles(const QString &folder);
     bool start(int port = 0); // 0: any free one; false: could not be had
     void stop();
 

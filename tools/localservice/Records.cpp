@@ -247,13 +247,16 @@ bool Records::mayRead(const QString &userId, const QString &accountId)
                 .isEmpty();
 }
 
+// Everybody goes by the account id, as in the family group.
 QJsonArray Records::sharedWith(const QString &accountId)
 {
     QJsonArray members;
     for (const QJsonObject &row : m_database.select(
-             "SELECT s.user_id AS id, s.user_id, u.email, u.display_name, s.role, s.created_at "
-             "FROM shares s JOIN users u ON u.id = s.user_id WHERE s.account_id = ? "
-             "ORDER BY u.email",
+             "SELECT s.account_id || ':' || u.account_id AS id, u.account_id AS user_id, u.email, "
+             "u.display_name, s.role, s.created_at FROM (SELECT account_id, user_id, role, "
+             "created_at FROM shares WHERE account_id = ?1 UNION ALL SELECT DISTINCT account_id, "
+             "owner_id, 'owner', '' FROM shares WHERE account_id = ?1) s "
+             "JOIN users u ON u.id = s.user_id ORDER BY s.role = 'owner', u.email",
              {accountId}))
         members.append(row);
     return members;
@@ -268,11 +271,12 @@ void Records::share(const QString &ownerId, const QString &accountId, const QStr
     touchAccount(ownerId, accountId);
 }
 
-bool Records::unshare(const QString &ownerId, const QString &accountId, const QString &userId)
+bool Records::unshare(const QString &ownerId, const QString &accountId, const QString &memberId)
 {
     const int removed =
-        m_database.run("DELETE FROM shares WHERE account_id = ? AND owner_id = ? AND user_id = ?",
-                       {accountId, ownerId, userId});
+        m_database.run("DELETE FROM shares WHERE account_id = ? AND owner_id = ? AND user_id = "
+                       "(SELECT id FROM users WHERE account_id = ?)",
+                       {accountId, ownerId, memberId});
     setShared(ownerId, accountId);
     return removed == 1;
 }

@@ -17,10 +17,11 @@ public:
     QJsonObject pull(const QString &userId, const QString &since, int limit);
 
     bool owns(const QString &userId, const QString &accountId);
-    QJsonArray sharedWith(const QString &accountId);
+    QJsonArray sharedWith(const QString &accountId); // its owner last; empty: with nobody
     void share(const QString &ownerId, const QString &accountId, const QString &userId,
                const QString &role);
-    bool unshare(const QString &ownerId, const QString &accountId, const QString &userId);
+    bool unshare(const QString &ownerId, const QString &accountId,
+                 const QString &memberId); // by the account id of the person
     bool mayRead(const QString &userId, const QString &accountId);
 
 private:

@@ -271,7 +271,7 @@ QString Users::fellowMember(const QString &userId, const QString &key)
 {
     return m_database
         .first("SELECT u.id FROM users u JOIN members m ON m.user_id = u.id "
-               "WHERE (u.id = ?1 OR u.email = ?1) AND u.id <> ?2 AND m.group_id = "
+               "WHERE (u.account_id = ?1 OR u.email = ?1) AND u.id <> ?2 AND m.group_id = "
                "(SELECT group_id FROM members WHERE user_id = ?2)",
                {key, userId})
         .value("id"_L1)

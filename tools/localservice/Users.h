@@ -36,7 +36,8 @@ public:
     bool leave(const QString &userId);
     bool removeMember(const QString &ownerId, const QString &accountId);
     bool revokeInvitation(const QString &ownerId, const QString &invitationId);
-    QString fellowMember(const QString &userId, const QString &key); // id or address; empty: none
+    // By account id or address; empty: none.
+    QString fellowMember(const QString &userId, const QString &key);
 
     QJsonArray devices(const QString &userId);
     void registerDevice(const QString &userId, const QJsonObject &device);

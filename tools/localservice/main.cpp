@@ -22,7 +22,8 @@ int main(int argc, char *argv[])
                                       u"file"_s, u":memory:"_s);
     const QCommandLineOption tokenLife(u"token-life"_s, u"Seconds that an access token lives."_s,
                                        u"seconds"_s, u"3600"_s);
-    parser.addOptions({port, database, tokenLife});
+    const QCommandLineOption files(u"files"_s, u"Folder to serve below /downloads."_s, u"folder"_s);
+    parser.addOptions({port, database, tokenLife, files});
     parser.process(application);
 
     // Blocked before the service's threads start, so that none of them is ended in its work.
@@ -34,6 +35,10 @@ int main(int argc, char *argv[])
 
     LocalService service(parser.value(database));
     service.setTokenLife(parser.value(tokenLife).toInt());
+    if (parser.isSet(files) && !service.serveFiles(parser.value(files))) {
+        std::fputs("There is no folder to serve.\n", stderr);
+        return 1;
+    }
     if (!service.start(parser.value(port).toInt())) {
         std::fputs("The port is taken.\n", stderr);
         return 1;

@@ -3,7 +3,9 @@
 #include "core/Deployment.h"
 #include "core/Language.h"
 #include "core/program/MessageHandler.h"
+#include "core/program/StartupNotices.h"
 #include "core/state/AppState.h"
+#include "core/state/UpdateConfig.h"
 #include "data/DataDirectory.h"
 #include "shell/FeedbackPage.h"
 #include "shell/MainWindow.h"
@@ -14,11 +16,17 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QTimer>
 #include <QTranslator>
 
+#include <chrono>
+
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+constexpr auto kUpdateCheckDelay = 1500ms; // the window opens and paints first
 
 // The translator, in use; or null, and without it the texts stay in the language of the source.
 QTranslator *installed(QTranslator *translator, bool loaded)
@@ -56,6 +64,9 @@ int Application::run()
         return reportDatabaseError();
     m_mainWindow = new MainWindow(m_appState);
     m_mainWindow->show();
+    offerWhatsNew(m_appState->preferences(), m_mainWindow);
+    QTimer::singleShot(kUpdateCheckDelay, this,
+                       [this] { startUpdateCheck(m_appState->preferences(), m_mainWindow); });
     return exec();
 }
 
@@ -102,6 +113,11 @@ void Application::setLanguage(const QString &word)
 QStringList Application::supportedLanguages()
 {
     return Language::supported();
+}
+
+KestUpdate::Config Application::updateClientConfig()
+{
+    return ::updateClientConfig();
 }
 
 FeedbackConfig Application::feedbackConfig()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Feedback.h"
+#include "kestupdate/Config.h"
 
 #include <QApplication>
 #include <QStringList>
@@ -23,6 +24,7 @@ public:
     static QString currentLanguage(bool resolveSystem);
     static void setLanguage(const QString &word); // takes effect at the next start
     static QStringList supportedLanguages();
+    static KestUpdate::Config updateClientConfig();
     static FeedbackConfig feedbackConfig();
     static void openFeedbackPage(const FeedbackConfig &feedback); // in the browser
 

@@ -14,12 +14,14 @@
 #include "data/TransactionRepository.h"
 #include "kestaccount/ApiClient.h"
 #include "kestaccount/Client.h"
+#include "services/BackupService.h"
 #include "services/CategoryService.h"
 #include "services/ImportService.h"
 #include "services/RecurringService.h"
 #include "services/ReportService.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/ThemeManager.h"
+#include "sync/AccountSharingService.h"
 #include "sync/SyncEngine.h"
 
 #include <QApplication>
@@ -52,6 +54,7 @@ bool AppState::initialize()
         new RecurringService(m_recurring, m_transactions, m_accounts, this, m_database);
     m_reportService = new ReportService(m_database, this);
     m_importService = new ImportService(m_transactions, m_categories, m_splitLines, this);
+    m_backupService = new BackupService(m_database, this);
     createSync();
     applyLook();
     readWeekStart();
@@ -96,6 +99,7 @@ void AppState::createSync()
                                   m_reconciliations, m_preferences, this);
     m_syncEngine->setSignedInCheck(
         [this] { return m_accountClient && m_accountClient->isAuthenticated(); });
+    m_sharingService = new AccountSharingService(syncApi, this);
 }
 
 void AppState::applyLook()

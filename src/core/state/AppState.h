@@ -4,6 +4,8 @@
 #include <QString>
 
 class AccountRepository;
+class AccountSharingService;
+class BackupService;
 class CategoryRepository;
 class CategoryService;
 class Database;
@@ -48,6 +50,8 @@ public:
     RecurringService *recurringService() const { return m_recurringService; }
     ReportService *reportService() const { return m_reportService; }
     ImportService *importService() const { return m_importService; }
+    BackupService *backupService() const { return m_backupService; }
+    AccountSharingService *sharingService() const { return m_sharingService; }
     KestAccount::Client *accountClient() const { return m_accountClient; }
     SyncEngine *syncEngine() const { return m_syncEngine; }
     ThemeManager *themeManager() const { return m_themeManager; }
@@ -79,6 +83,8 @@ private:
     RecurringService *m_recurringService = nullptr;
     ReportService *m_reportService = nullptr;
     ImportService *m_importService = nullptr;
+    BackupService *m_backupService = nullptr;
+    AccountSharingService *m_sharingService = nullptr;
     KestAccount::Client *m_accountClient = nullptr;
     SyncEngine *m_syncEngine = nullptr;
     ThemeManager *m_themeManager = nullptr;

@@ -32,5 +32,6 @@ ServiceEndpoints serviceEndpoints()
                 .portalUrl = variableOr("ACCOUNT_PORTAL_URL", kAccountPortalUrl),
             },
         .syncApiUrl = variableOr("SYNC_API_URL", kSyncApiUrl),
+        .updateBaseUrl = variableOr("UPDATE_BASE_URL", kUpdateUrl),
     };
 }

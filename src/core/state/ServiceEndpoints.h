@@ -8,6 +8,7 @@ struct ServiceEndpoints
 {
     KestAccount::ClientConfig account{};
     QString syncApiUrl{};
+    QString updateBaseUrl{}; // the directory of the manifest of releases
 };
 
 ServiceEndpoints serviceEndpoints(); // read afresh from the environment

@@ -1,4 +1,4 @@
-#include "screens/ImportProgressDialog.h"
+#include "screens/WorkProgressDialog.h"
 
 #include <QCloseEvent>
 
@@ -8,21 +8,28 @@ namespace {
 constexpr int kMinimumWidth = 340; // pixels; room for the title
 }
 
-ImportProgressDialog::ImportProgressDialog(const QString &text, int delay, QWidget *parent)
+WorkProgressDialog::WorkProgressDialog(const QString &text, int delay, QWidget *parent)
     : QProgressDialog(text, {}, 0, 0, parent)
 {
-    setObjectName(u"importProgress"_s);
-    setWindowTitle(parent->windowTitle());
-    setWindowModality(Qt::WindowModal);
+    setObjectName(u"workProgress"_s);
+    setWindowTitle(parent->window()->windowTitle());
+    setWindowModality(Qt::ApplicationModal); // each progress lets events through
     setWindowFlag(Qt::WindowCloseButtonHint, false);
     setCancelButton(nullptr);
     setAutoReset(false); // the last record is read before the last one is stored
     setMinimumWidth(kMinimumWidth);
     setMinimumDuration(delay);
+    setValue(0); // the delay counts from here
+}
+
+void WorkProgressDialog::showProgress(int done, int total)
+{
+    setMaximum(total);
+    setValue(done);
 }
 
 // The base class would hide itself here, and with it what keeps the other windows from hearing.
-void ImportProgressDialog::closeEvent(QCloseEvent *event)
+void WorkProgressDialog::closeEvent(QCloseEvent *event)
 {
     event->ignore();
 }

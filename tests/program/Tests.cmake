@@ -1,0 +1,2 @@
+pursewell_test(StartupNoticesTest LABEL widget
+  USES pursewell_application pursewell_state_fixture)
