@@ -3,7 +3,6 @@
 #include "PlainSqlite.h"
 
 #include "core/state/AppState.h"
-#include "services/ImportRecords.h"
 #include "shell/MainWindow.h"
 
 #include <QTemporaryDir>

@@ -169,7 +169,8 @@ public:
         for (const Field &field : fields) {
             columns += (columns.isEmpty() ? "" : ", ") + field.column;
             marks += marks.isEmpty() ? "?" : ", ?";
-            assignments += (assignments.isEmpty() ? "" : ", ") + field.column + " = ?";
+            if (field.column != "id") // writing it would look for every row that refers to it
+                assignments += (assignments.isEmpty() ? "" : ", ") + field.column + " = ?";
         }
         const QByteArray name = table.name;
         m_find = plain.prepare("SELECT id, updated_at FROM " + name + " WHERE id = ?");
@@ -194,8 +195,10 @@ public:
         sqlite3_reset(m_find);
         sqlite3_stmt *statement = exists ? m_update : m_insert;
         int place = 0;
-        for (const Field &field : fields)
-            bind(statement, ++place, field);
+        for (const Field &field : fields) {
+            if (!exists || field.column != "id")
+                bind(statement, ++place, field);
+        }
         if (exists)
             bind(statement, ++place, id);
         if (sqlite3_step(statement) != SQLITE_DONE)
@@ -248,7 +251,8 @@ QByteArray plainExport(PlainSqlite &plain)
 
 int plainRestore(PlainSqlite &plain, const QByteArray &bytes)
 {
-    plain.execute("PRAGMA foreign_keys=ON; PRAGMA synchronous=NORMAL"); // as the program
+    // As the program has it.
+    plain.execute("PRAGMA journal_mode=WAL; PRAGMA foreign_keys=ON; PRAGMA synchronous=NORMAL");
     zip_source_t *source =
         zip_source_buffer_create(bytes.constData(), zip_uint64_t(bytes.size()), 0, nullptr);
     zip_t *archive = zip_open_from_source(source, ZIP_RDONLY, nullptr);

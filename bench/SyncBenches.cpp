@@ -5,7 +5,6 @@
 
 #include "core/Ids.h"
 #include "core/state/AppState.h"
-#include "data/Account.h"
 #include "data/AccountRepository.h"
 #include "data/CategoryRepository.h"
 #include "data/PreferencesRepository.h"

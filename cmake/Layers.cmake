@@ -6,7 +6,9 @@ set(PURSEWELL_LAYERS
 add_library(pursewell_options INTERFACE)
 target_compile_options(pursewell_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-  $<$<BOOL:${PURSEWELL_WERROR}>:-Werror>)
+  $<$<BOOL:${PURSEWELL_WERROR}>:-Werror>
+  # A release holds no path of the machine that built it: two builds of one commit are alike.
+  $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build>)
 target_compile_definitions(pursewell_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
 if(PURSEWELL_SANITIZE)

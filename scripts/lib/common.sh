@@ -8,6 +8,10 @@ current_step="starting"
 
 # The precompiled headers and the time macros of Qt's headers would make ccache miss every file.
 export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros,include_file_mtime,include_file_ctime}
+# Without a home ccache has no place of its own.
+if [ -z "${CCACHE_DIR:-}" ] && [ ! -w "${HOME:-/nonexistent}" ]; then
+  export CCACHE_DIR=$repository_root/build/ccache
+fi
 
 set -o errtrace
 trap 'report_failed_step $?' ERR
@@ -55,7 +59,7 @@ install_packages() {
   fi
   local package
   for package in "${wanted[@]}"; do
-    [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] \
+    [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed* ]] \
       || missing+=("$package")
   done
   if [ "${#missing[@]}" -eq 0 ]; then
@@ -67,21 +71,15 @@ install_packages() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-# build_preset <preset>: configures and builds build/<preset>.
+# build_preset <preset> [target]...: configures and builds build/<preset>, or these targets of it.
 build_preset() {
+  local preset=$1
+  shift
   cd -- "$repository_root"
-  step "configuring build/$1"
-  cmake --preset "$1"
-  step "building build/$1"
-  cmake --build --preset "$1"
-}
-
-build_local_service() {
-  cd -- "$repository_root"
-  step "configuring build/dev"
-  cmake --preset dev
-  step "building the local service"
-  cmake --build --preset dev --target pursewell-local-service
+  step "configuring build/$preset"
+  cmake --preset "$preset"
+  step "building build/$preset${1:+: $*}"
+  cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 
 local_service_of() {

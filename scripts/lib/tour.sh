@@ -368,6 +368,17 @@ right_click() {
   xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 3
 }
 
+# SQL: the account on the other side of a row t that is a transfer.
+other_account="CASE WHEN ifnull(t.transfer_link_id, '') = '' THEN ''
+  ELSE ifnull((SELECT other_account.name FROM transactions other
+               JOIN accounts other_account ON other_account.id = other.account_id
+               WHERE other.id = t.transfer_link_id
+                 AND other.transfer_link_id = t.id
+                 AND other.transfer_dest_account_id = t.account_id
+                 AND t.transfer_dest_account_id = other.account_id
+                 AND other.amount = -t.amount AND other.date = t.date
+                 AND other.deleted_at IS NULL), 'broken link') END"
+
 # The register of an account as text: date, check number, payee, memo, amount, category, state,
 # running balance and, for a transfer whose two sides agree in every way, the other account.
 register_of() {
@@ -377,15 +388,7 @@ register_of() {
            CASE WHEN t.reconciled AND t.cleared THEN 'R' WHEN t.reconciled THEN '?'
                 WHEN t.cleared THEN 'C' ELSE '' END,
            a.starting_balance + SUM(t.amount) OVER (ORDER BY t.date, t.created_at, t.rowid),
-           CASE WHEN ifnull(t.transfer_link_id, '') = '' THEN ''
-                ELSE ifnull((SELECT other_account.name FROM transactions other
-                             JOIN accounts other_account ON other_account.id = other.account_id
-                             WHERE other.id = t.transfer_link_id
-                               AND other.transfer_link_id = t.id
-                               AND other.transfer_dest_account_id = t.account_id
-                               AND t.transfer_dest_account_id = other.account_id
-                               AND other.amount = -t.amount AND other.date = t.date
-                               AND other.deleted_at IS NULL), 'broken link') END
+           $other_account
     FROM transactions t
     JOIN accounts a ON a.id = t.account_id
     LEFT JOIN categories c ON c.id = t.category_id

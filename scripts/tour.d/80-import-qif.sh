@@ -99,15 +99,7 @@ expect_household() {
     SELECT line FROM (
       SELECT a.name || ' | ' || t.date || ' | ' || t.payee || ' | ' || t.amount || ' | ' ||
              ifnull(c.name, '') || ' | ' || replace(ifnull(t.memo, ''), char(10), '~') || ' | ' ||
-             CASE WHEN ifnull(t.transfer_link_id, '') = '' THEN ''
-                  ELSE ifnull((SELECT partner_account.name FROM transactions partner
-                               JOIN accounts partner_account ON partner_account.id = partner.account_id
-                               WHERE partner.id = t.transfer_link_id
-                                 AND partner.transfer_link_id = t.id
-                                 AND partner.transfer_dest_account_id = t.account_id
-                                 AND t.transfer_dest_account_id = partner.account_id
-                                 AND partner.amount = -t.amount AND partner.date = t.date),
-                              'broken link') END || ' | ' ||
+             $other_account || ' | ' ||
              (SELECT COUNT(*) FROM split_lines s WHERE s.transaction_id = t.id) AS line
       FROM transactions t
       JOIN accounts a ON a.id = t.account_id

@@ -22,36 +22,15 @@ chapter_account() {
     on "$device"
     quit_device
   done
-  kill "$service_pid"
-  wait "$service_pid" || fail "the service did not end well"
+  stop_local_service
   unset AUTH_BASE_URL ACCOUNT_API_URL SYNC_API_URL BROWSER_USER
   export PATH=$path_before PURSEWELL_DATA_DIR=$data_before XDG_CONFIG_HOME=$config_before
   program_log=program.log
 }
 
-served() {
-  sqlite3 -cmd '.timeout 5000' -separator ' | ' "$stage/service.db" "$1"
-}
-
-service_has() {
-  [ "$(served "$2")" = "$1" ]
-}
-
-# wait_for_service <answer> <statement>
-wait_for_service() {
-  wait_until 20 "\"$1\" at the service from: $2" service_has "$1" "$2"
-}
-
 # Groups are made outside the program. This leaves a session and an invitation of its own behind.
 ann_found_a_family() {
-  local token
-  token=$(curl --silent --show-error --max-time 20 --output /dev/null \
-    --write-out '%{redirect_url}' --data email=ann@example.com --data password=secret \
-    --user-agent 'Some browser with a name that goes on for more than sixty characters' \
-    "$service_address/kestrelwood/account/login?redirect_uri=http%3A%2F%2Flocalhost%2F" \
-    | grep -o 'access_token=[^&]*' | cut -d = -f 2)
-  curl --silent --show-error --fail --max-time 20 --output /dev/null --data '' \
-    --header "Authorization: Bearer $token" "$service_address/account/v1/group/invite"
+  ask_service "$(token_of ann)" account/v1/group/invite >"$stage/invitation.json"
 }
 
 open_account_window() {

@@ -2,11 +2,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-const QUuid kCategoryNamespace(u"{6ba7b810-9dad-11d1-80b4-00c04fd430c8}"_s); // DNS of RFC 4122
-const QUuid kOccurrenceNamespace(u"{3f6c1e52-8a4d-4b17-a2c9-5e70d1b8c346}"_s);
-}
-
 QString newId()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces);
@@ -19,10 +14,12 @@ QString deterministicId(const QUuid &nameSpace, const QString &seed)
 
 const QUuid &categoryNamespace()
 {
-    return kCategoryNamespace;
+    static const QUuid dns(u"{6ba7b810-9dad-11d1-80b4-00c04fd430c8}"_s); // of RFC 4122
+    return dns;
 }
 
 const QUuid &occurrenceNamespace()
 {
-    return kOccurrenceNamespace;
+    static const QUuid own(u"{3f6c1e52-8a4d-4b17-a2c9-5e70d1b8c346}"_s);
+    return own;
 }

@@ -1,6 +1,7 @@
 #include "data/RecurringRepository.h"
 
 #include "core/Dates.h"
+#include "data/DueDates.h"
 #include "data/Queries.h"
 
 #include <QDebug>
@@ -13,8 +14,6 @@ constexpr QLatin1StringView kColumns{
     "id, account_id, payee, memo, amount, category_id, frequency, start_date, end_date, "
     "next_due_date, auto_post, is_active, transfer_dest_account_id, version, sync_status, "
     "server_id, created_at, updated_at, deleted_at"};
-
-const QDate kEarliestDueDate(2000, 1, 1);
 
 std::optional<QDate> optionalDateAt(const QSqlQuery &query, int column)
 {
@@ -50,7 +49,7 @@ RecurringTransaction readRow(const QSqlQuery &query)
 // Such a template would be due for every period since: the log tells where it came from.
 void reportBrokenDueDate(const char *operation, const RecurringTransaction &recurring)
 {
-    if (recurring.next_due_date.isValid() && recurring.next_due_date >= kEarliestDueDate)
+    if (!isBrokenDueDate(recurring.next_due_date))
         return;
     qWarning() << "RecurringRepository::" << operation
                << "saving recurring with broken nextDueDate:"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/RecurringTransaction.h"
 #include "data/KeptStatement.h"
+#include "data/RecurringTransaction.h"
 
 #include <QList>
 #include <QObject>

@@ -166,12 +166,14 @@ void AccountScreen::changeEvent(QEvent *event)
 void AccountScreen::styleNavigation()
 {
     const auto color = [this](QPalette::ColorRole role) { return palette().color(role).name(); };
-    m_navigation->setStyleSheet(u"QListWidget {  background: %1; border: none; padding: 12px 8px;}"
-                                "QListWidget::item {  padding: 8px 12px; border-radius: 6px;}"
-                                "QListWidget::item:selected {  background: %2; color: %3;}"
-                                "QListWidget::item:hover:!selected {  background: %4;}"_s.arg(
-                                    color(QPalette::AlternateBase), color(QPalette::Highlight),
-                                    color(QPalette::HighlightedText), color(QPalette::Button)));
+    m_navigation->setStyleSheet(
+        u"QListWidget {  background: %1; border: none; padding: 12px 8px;}"
+        "QListWidget::item {  padding: 8px 12px; border-radius: 6px;}"
+        "QListWidget::item:selected {  background: %2; color: %3;}"
+        "QListWidget::item:hover:!selected {  background: %4;}"
+        "QListWidget:focus {  border-right: 2px solid %2; "
+        "padding-right: 6px;}"_s.arg(color(QPalette::AlternateBase), color(QPalette::Highlight),
+                                     color(QPalette::HighlightedText), color(QPalette::Button)));
 }
 
 void AccountScreen::takeFont()

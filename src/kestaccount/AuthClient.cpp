@@ -41,8 +41,8 @@ void AuthClient::setupRefreshCallback()
 {
     m_tokenManager->setRefreshCallback(
         [api = QPointer(m_apiClient)](const QString &refreshToken,
-                                      TokenManager::RefreshSucceeded succeeded,
-                                      TokenManager::RefreshFailed failed) {
+                                      const TokenManager::RefreshSucceeded &succeeded,
+                                      const TokenManager::RefreshFailed &failed) {
             if (!api)
                 return;
             api->postPublic(u"/auth/token/refresh"_s, {{"refresh_token"_L1, refreshToken}},

@@ -9,6 +9,8 @@ namespace KestAccount {
 
 namespace {
 
+constexpr int kPromptWidth = 360; // an address fits, and so do the titles of all languages
+
 QPointer<QMessageBox> makeBox(QWidget *parent, QMessageBox::Icon icon, const QString &title,
                               const QString &text, QMessageBox::StandardButtons buttons)
 {
@@ -28,6 +30,7 @@ std::optional<QString> askForText(QWidget *parent, const QString &title, const Q
     dialog->setLabelText(prompt);
     dialog->setTextValue(text);
     dialog->setTextEchoMode(echo);
+    dialog->resize(dialog->sizeHint().expandedTo({kPromptWidth, 0}));
     const bool accepted = dialog->exec() == QDialog::Accepted;
     std::optional<QString> answer{};
     if (accepted && dialog)

@@ -7,7 +7,6 @@
 #include <QDialog>
 #include <QSet>
 
-class QAbstractButton;
 class QVBoxLayout;
 
 namespace KestAccount {

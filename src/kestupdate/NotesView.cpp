@@ -16,6 +16,8 @@ NotesView::NotesView(QWidget *parent)
 {
     setObjectName(u"notesView"_s);
     setAccessibleName(tr("Release notes"));
+    setStyleSheet(u"QTextBrowser { border: 1px solid palette(mid); }"
+                  "QTextBrowser:focus { border: 1px solid palette(highlight); }"_s);
     setOpenLinks(false); // it would load files into itself
     connect(this, &QTextBrowser::anchorClicked, this, &NotesView::openLink);
     // Qt's own handler opens pictures by their path, past loadResource.

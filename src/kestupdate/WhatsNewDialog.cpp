@@ -27,6 +27,12 @@ WhatsNewDialog::WhatsNewDialog(const QString &markdown, const QString &version,
     layout->addWidget(new HeadingLabel(tr("What's new in %1 %2").arg(appName, version), 2));
     layout->addWidget(m_notesView, 1);
     layout->addLayout(buildBottomRow(version, currentVersion));
+    // A button that a box gets before it has a window is left out of the chain.
+    auto *download = findChild<QPushButton *>(u"downloadButton"_s);
+    auto *close = findChild<QPushButton *>(u"closeButton"_s);
+    setTabOrder(m_notesView, download ? download : close);
+    if (download)
+        setTabOrder(download, close);
 }
 
 QLayout *WhatsNewDialog::buildBottomRow(const QString &version, const QString &currentVersion)

@@ -4,22 +4,21 @@
 #include "core/Ids.h"
 #include "core/Money.h"
 #include "register/AccountTypeName.h"
+#include "register/AmountBox.h"
+#include "register/DateInput.h"
+#include "shell/theme/FieldHint.h"
 
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLineEdit>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kLargestBalance = 99999999.99;
 constexpr int kMinimumWidth = 400; // pixels
 
 void selectData(QComboBox *combo, const QString &data)
@@ -54,23 +53,23 @@ void AccountFormDialog::build()
     setMinimumWidth(kMinimumWidth);
     m_name = new QLineEdit(this);
     m_name->setObjectName(u"nameEdit"_s);
-    m_name->setPlaceholderText(tr("Account name"));
+    setFieldHint(m_name, tr("Account name"));
     buildChoices();
     m_balance = new QDoubleSpinBox(this);
     m_balance->setObjectName(u"balanceSpin"_s);
-    m_balance->setRange(-kLargestBalance, kLargestBalance);
+    m_balance->setRange(-AmountBox::kLargest, AmountBox::kLargest);
     m_balance->setPrefix(u"$ "_s);
     m_balance->setValue(0.0);
     m_startDate = new QDateEdit(QDate::currentDate(), this);
     m_startDate->setObjectName(u"startDateEdit"_s);
     m_startDate->setCalendarPopup(true);
-    m_startDate->calendarWidget()->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>(weekStart()));
+    DateInput::setUpCalendar(m_startDate->calendarWidget());
     m_institution = new QLineEdit(this);
     m_institution->setObjectName(u"institutionEdit"_s);
-    m_institution->setPlaceholderText(tr("Bank name (optional)"));
+    setFieldHint(m_institution, tr("Bank name (optional)"));
     m_number = new QLineEdit(this);
     m_number->setObjectName(u"numberEdit"_s);
-    m_number->setPlaceholderText(tr("Last 4 digits (optional)"));
+    setFieldHint(m_number, tr("Last 4 digits (optional)"));
     m_number->setMaxLength(4);
 
     auto *form = new QFormLayout(this);
@@ -113,7 +112,7 @@ void AccountFormDialog::showAccount()
     m_name->setText(m_account.name);
     selectData(m_type, accountTypeToString(m_account.account_type));
     selectData(m_currency, currencyToString(m_account.currency));
-    m_balance->setValue(static_cast<double>(m_account.starting_balance) / 100.0);
+    AmountBox::show(m_balance, m_account.starting_balance);
     m_shownBalance = m_balance->value();
     m_institution->setText(m_account.institution);
     m_number->setText(m_account.account_number_last4);
@@ -136,7 +135,7 @@ Account AccountFormDialog::account() const
     account.currency = currencyFromString(m_currency->currentData().toString());
     // A balance that the box cannot hold shows as the box's limit; left alone, it stays as it was.
     if (m_balance->value() != m_shownBalance)
-        account.starting_balance = std::llround(m_balance->value() * 100.0);
+        account.starting_balance = AmountBox::amountOf(m_balance);
     account.institution = m_institution->text().trimmed();
     account.account_number_last4 = m_number->text().trimmed();
     account.updated_at = currentStamp();

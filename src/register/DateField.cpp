@@ -35,8 +35,7 @@ void DateField::openCalendarPopup()
 
 void DateField::keyPressEvent(QKeyEvent *event)
 {
-    const bool altDown = event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier;
-    if (event->key() == Qt::Key_F4 || altDown) {
+    if (DateInput::asksForCalendar(*event)) {
         openCalendarPopup();
         event->accept();
         return;

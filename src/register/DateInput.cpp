@@ -7,6 +7,7 @@
 #include <QCalendarWidget>
 #include <QCoreApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
 
@@ -39,6 +40,12 @@ QDate DateInput::resolve(const QString &text, QDate stored)
             return date;
     }
     return stored;
+}
+
+bool DateInput::asksForCalendar(const QKeyEvent &key)
+{
+    const bool altDown = key.key() == Qt::Key_Down && key.modifiers() & Qt::AltModifier;
+    return key.key() == Qt::Key_F4 || altDown;
 }
 
 bool DateInput::applyKey(const QString &keyText, QDate &date, QDate today)
@@ -85,8 +92,15 @@ QAction *DateInput::addCalendarAction(QLineEdit *field)
     const QColor color = field->palette().color(QPalette::PlaceholderText);
     const QIcon icon(materialIcon(kCalendarGlyph, kCalendarIconPixels, color));
     QAction *action = field->addAction(icon, QLineEdit::TrailingPosition);
-    action->setToolTip(QCoreApplication::translate("DateField", "Open calendar (F4)"));
+    action->setText(QCoreApplication::translate("DateField", "Open calendar (F4)"));
     return action;
+}
+
+void DateInput::setUpCalendar(QCalendarWidget *calendar)
+{
+    calendar->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>(weekStart()));
+    calendar->setWeekdayTextFormat(Qt::Saturday, {});
+    calendar->setWeekdayTextFormat(Qt::Sunday, {});
 }
 
 void DateInput::showCalendar(QWidget *field, QDate start, const std::function<void(QDate)> &picked)
@@ -96,7 +110,7 @@ void DateInput::showCalendar(QWidget *field, QDate start, const std::function<vo
     calendar->setAttribute(Qt::WA_DeleteOnClose);
     calendar->setWindowFlag(Qt::Popup);
     calendar->setLocale(QLocale());
-    calendar->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>(weekStart()));
+    setUpCalendar(calendar);
     calendar->setGridVisible(true);
     calendar->setSelectedDate(start.isValid() ? start : QDate::currentDate());
     // Only a click picks: activated() also fires on Return while the user pages through months.

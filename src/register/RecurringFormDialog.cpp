@@ -6,9 +6,12 @@
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "data/CategoryRepository.h"
+#include "data/DueDates.h"
 #include "data/TransactionRepository.h"
+#include "register/AmountBox.h"
 #include "register/CategoryChoices.h"
-#include "services/RecurringSchedule.h"
+#include "register/DateInput.h"
+#include "register/FieldLabel.h"
 
 #include <QCalendarWidget>
 #include <QCheckBox>
@@ -17,21 +20,19 @@
 #include <QDateEdit>
 #include <QDebug>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QStringListModel>
 
-#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kLargestAmount = 99999999.99;
 constexpr int kMinimumWidth = 480; // pixels
 constexpr int kSymbolRole = Qt::UserRole + 1; // of an account's item: its currency symbol
 
@@ -40,7 +41,7 @@ QDateEdit *makeDateEdit(QWidget *parent, const QString &name, QDate date)
     auto *edit = new QDateEdit(date, parent);
     edit->setObjectName(name);
     edit->setCalendarPopup(true);
-    edit->calendarWidget()->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>(weekStart()));
+    DateInput::setUpCalendar(edit->calendarWidget());
     return edit;
 }
 
@@ -122,8 +123,7 @@ void RecurringFormDialog::buildAccount()
 void RecurringFormDialog::buildAmount()
 {
     m_amount = makeNamed<QDoubleSpinBox>(u"amountSpin"_s, this);
-    m_amount->setRange(0.0, kLargestAmount);
-    m_amount->setDecimals(2);
+    m_amount->setRange(0.0, AmountBox::kLargest);
     m_amount->setPrefix(currencySymbol(Currency::USD));
 
     m_category = makeNamed<QComboBox>(u"categoryCombo"_s, this);
@@ -176,7 +176,8 @@ QWidget *RecurringFormDialog::buildType()
 void RecurringFormDialog::addRows(QFormLayout *form)
 {
     form->addRow(tr("Account:"), m_account);
-    form->addRow(tr("Type:"), buildType());
+    QWidget *type = buildType();
+    form->addRow(makeFieldLabel(tr("Type:"), m_payment), type);
     form->addRow(tr("Payee:"), m_payee);
     form->addRow(tr("Amount:"), m_amount);
     form->addRow(tr("Category:"), m_category);
@@ -212,7 +213,7 @@ void RecurringFormDialog::showOriginal()
     m_account->setCurrentIndex(m_account->findData(m_original.account_id)); // none if it has gone
     m_deposit->setChecked(m_original.amount >= 0);
     m_payee->setText(m_original.payee);
-    m_amount->setValue(static_cast<double>(absoluteMoney(m_original.amount)) / 100.0);
+    AmountBox::show(m_amount, absoluteMoney(m_original.amount));
     m_shownAmount = m_amount->value();
     m_memo->setText(m_original.memo);
     CategoryChoices::select(*m_category, m_original.category_id, *m_appState->categories());
@@ -249,13 +250,11 @@ RecurringTransaction RecurringFormDialog::recurring() const
     return recurring;
 }
 
-// The box counts in hundredths, whatever the currency; so does the way back.
 qint64 RecurringFormDialog::typedAmount() const
 {
     // An amount that the box cannot hold shows as the box's limit; left alone, it stays as it was.
-    const qint64 amount = m_amount->value() == m_shownAmount
-        ? absoluteMoney(m_original.amount)
-        : std::llround(m_amount->value() * 100.0);
+    const qint64 amount = m_amount->value() == m_shownAmount ? absoluteMoney(m_original.amount)
+                                                             : AmountBox::amountOf(m_amount);
     return m_payment->isChecked() ? negateMoney(amount) : amount;
 }
 

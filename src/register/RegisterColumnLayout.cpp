@@ -4,18 +4,22 @@
 #include "data/PreferencesRepository.h"
 #include "register/RegisterColumn.h"
 #include "register/RegisterModel.h"
+#include "shell/theme/FontRoles.h"
+#include "shell/theme/ThemeManager.h"
 
 #include <QHeaderView>
 #include <QMenu>
 #include <QSettings>
 #include <QTableView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int kDefaultWidths[RegisterColumn::kCount] = {130, 60,  250, 180, 180,
-                                                        100, 100, 35,  110}; // pixels
+                                                        100, 100, 35,  110}; // pixels, at 100 %
 
 QString widthKey(int column)
 {
@@ -62,7 +66,21 @@ RegisterColumnLayout::RegisterColumnLayout(AppState *appState, QTableView *view,
                 m_view->sortByColumn(RegisterColumn::Date,
                                      newestFirst ? Qt::DescendingOrder : Qt::AscendingOrder);
             });
+    connect(appState->themeManager(), &ThemeManager::fontScaleChanged, this,
+            &RegisterColumnLayout::applyWidths);
     apply();
+}
+
+// A column that was never drawn wider or narrower by hand goes with the font.
+void RegisterColumnLayout::applyWidths()
+{
+    const QSettings settings;
+    m_restoring = true;
+    for (int column = 0; column < RegisterColumn::kCount; ++column) {
+        const int usual = kDefaultWidths[column] * std::max(100, fontScale()) / 100;
+        m_view->setColumnWidth(column, settings.value(widthKey(column), usual).toInt());
+    }
+    m_restoring = false;
 }
 
 void RegisterColumnLayout::storeWidth(int column, int width)
@@ -75,12 +93,10 @@ void RegisterColumnLayout::storeWidth(int column, int width)
 void RegisterColumnLayout::apply()
 {
     const QSettings settings;
+    applyWidths();
     m_restoring = true;
-    for (int column = 0; column < RegisterColumn::kCount; ++column) {
-        const int width = settings.value(widthKey(column), kDefaultWidths[column]).toInt();
-        m_view->setColumnWidth(column, width);
+    for (int column = 0; column < RegisterColumn::kCount; ++column)
         m_view->setColumnHidden(column, storedHidden(column));
-    }
     m_restoring = false;
     setTwoLineMode(m_twoLineMode);
 
@@ -113,7 +129,9 @@ void RegisterColumnLayout::setTwoLineMode(bool enabled)
 
 void RegisterColumnLayout::setColumnShown(int column, bool shown)
 {
+    m_restoring = true; // the width that comes back is not one drawn by hand
     m_view->setColumnHidden(column, !shown);
+    m_restoring = false;
     QSettings().setValue(hiddenKey(column), !shown);
 }
 

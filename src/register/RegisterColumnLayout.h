@@ -23,6 +23,7 @@ public:
     void showHeaderMenu(QPoint position); // in the header's coordinates
 
 private:
+    void applyWidths();
     void setColumnShown(int column, bool shown);
     void storeWidth(int column, int width);
 

@@ -73,6 +73,7 @@ QWidget *RegisterDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
         break;
     }
     }
+    editor->setAccessibleName(m_model->spokenColumnName(index.column()));
     // Tab must not wander into an editor by itself: the screen moves from cell to cell.
     editor->setFocusPolicy(Qt::ClickFocus);
     return editor;
@@ -86,6 +87,8 @@ QWidget *RegisterDelegate::createPayeeEditor(QWidget *parent) const
         return line;
     }
     auto *both = new PayeeMemoEditor(parent);
+    both->payeeEdit()->setAccessibleName(m_model->spokenColumnName(RegisterColumn::Payee));
+    both->memoEdit()->setAccessibleName(m_model->spokenColumnName(RegisterColumn::Memo));
     completePayee(both->payeeEdit());
     return both;
 }

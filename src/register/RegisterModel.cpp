@@ -100,6 +100,12 @@ QVariant RegisterModel::data(const QModelIndex &index, int role) const
             : QVariant();
     case Qt::BackgroundRole:
         return background(index.row());
+    case Qt::AccessibleTextRole:
+        return row ? spokenText(index) : spokenInsertionText(column);
+    case Qt::AccessibleDescriptionRole:
+        return m_twoLineMode && column == RegisterColumn::Payee
+            ? index.siblingAtColumn(RegisterColumn::Memo).data(Qt::EditRole)
+            : QVariant();
     default:
         return {};
     }
@@ -126,6 +132,36 @@ QVariant RegisterModel::rowText(int modelRow, int column, int role) const
     if (role == Qt::EditRole && column == RegisterColumn::Balance && modelRow != m_editRow)
         return {};
     return storedText(row, column);
+}
+
+// Invalid where what is shown can be read out as it stands.
+QVariant RegisterModel::spokenText(const QModelIndex &index) const
+{
+    if (index.column() != RegisterColumn::Clr)
+        return {};
+    const QString mark = index.data().toString().trimmed().toUpper();
+    if (mark == u"R"_s)
+        return tr("Reconciled");
+    return mark == u"C"_s ? tr("Cleared") : tr("Uncleared");
+}
+
+QString RegisterModel::spokenInsertionText(int column) const
+{
+    const QString text = insertionText(column, Qt::EditRole).toString();
+    return text.isEmpty() ? tr("New transaction, %1").arg(spokenColumnName(column))
+                          : tr("New transaction, %1: %2").arg(spokenColumnName(column), text);
+}
+
+QString RegisterModel::spokenColumnName(int column) const
+{
+    switch (column) {
+    case RegisterColumn::CheckNumber:
+        return tr("Check number");
+    case RegisterColumn::Clr:
+        return tr("Cleared");
+    default:
+        return columnName(column);
+    }
 }
 
 QVariant RegisterModel::alignment(int column) const
@@ -199,8 +235,11 @@ QString RegisterModel::columnName(int column) const
 
 QVariant RegisterModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0
-        || section >= RegisterColumn::kCount)
+    if (orientation != Qt::Horizontal || section < 0 || section >= RegisterColumn::kCount)
+        return {};
+    if (role == Qt::AccessibleTextRole)
+        return spokenColumnName(section);
+    if (role != Qt::DisplayRole)
         return {};
     if (section == RegisterColumn::Payee && m_twoLineMode)
         return tr("Payee / Memo");

@@ -34,6 +34,7 @@ public:
     // The stored row at a model row, or null for the insertion row and anything outside.
     const RegisterRow *rowAt(int modelRow) const;
     bool isSplitRow(int modelRow) const;
+    QString spokenColumnName(int column) const; // in full, where the head has a short form
 
     // The model row of the stored row under edit, or -1 while the buffers are the insertion row's.
     int editRow() const { return m_editRow; }
@@ -61,6 +62,8 @@ private:
     QString columnName(int column) const;
     QVariant insertionText(int column, int role) const;
     QVariant rowText(int modelRow, int column, int role) const;
+    QVariant spokenText(const QModelIndex &index) const;
+    QString spokenInsertionText(int column) const;
     QVariant alignment(int column) const;
     QVariant foreground(const RegisterRow &row, int column) const;
     QVariant background(int modelRow) const;

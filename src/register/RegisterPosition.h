@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QModelIndex;
 class RegisterModel;
 class RegisterTableView;
 

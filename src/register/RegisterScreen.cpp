@@ -130,6 +130,7 @@ void RegisterScreen::refresh()
     const RegisterPosition before = RegisterPosition::of(*m_view, *m_model);
     QList<RegisterRow> rows = m_appState->transactions()->registerRows(m_accountId);
     applyTwoLineMode();
+    m_view->setAccessibleName(account->name);
     m_header->showAccount(*account,
                           rows.isEmpty() ? account->starting_balance : rows.last().balance);
     m_model->setRows(std::move(rows));

@@ -32,8 +32,7 @@ void SmartDateEdit::openCalendarPopup()
 
 void SmartDateEdit::keyPressEvent(QKeyEvent *event)
 {
-    const bool altDown = event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier;
-    if (event->key() == Qt::Key_F4 || altDown) {
+    if (DateInput::asksForCalendar(*event)) {
         openCalendarPopup();
         event->accept();
         return;

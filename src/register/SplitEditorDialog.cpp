@@ -5,25 +5,22 @@
 #include "core/Money.h"
 #include "core/state/AppState.h"
 #include "data/CategoryRepository.h"
+#include "register/AmountBox.h"
 #include "register/CategoryChoices.h"
 #include "register/SplitTable.h"
 #include "shell/theme/FontRoles.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kLargestAmount = 99999999.99;
 constexpr int kAmountWidth = 120; // pixels
 
 enum Column { CategoryColumn, AmountColumn, MemoColumn };
@@ -70,6 +67,7 @@ void SplitEditorDialog::buildTable(QVBoxLayout *layout)
 {
     m_table = new SplitTable(this);
     m_table->setObjectName(u"splitTable"_s);
+    m_table->setAccessibleName(windowTitle());
     m_table->setColumnCount(3);
     m_table->setHorizontalHeaderLabels({tr("Category"), tr("Amount"), tr("Memo")});
     QHeaderView *header = m_table->horizontalHeader();
@@ -108,7 +106,7 @@ void SplitEditorDialog::showLines(const QList<SplitLine> &lines)
         addRow();
         const int row = m_table->rowCount() - 1;
         CategoryChoices::select(*categoryBox(row), line.category_id, *m_appState->categories());
-        amountBox(row)->setValue(static_cast<double>(absoluteMoney(line.amount)) / 100.0);
+        AmountBox::show(amountBox(row), absoluteMoney(line.amount));
         m_table->item(row, MemoColumn)->setText(line.memo);
     }
     if (lines.isEmpty()) {
@@ -126,8 +124,7 @@ void SplitEditorDialog::addRow()
         category->addItem(name, id);
     m_table->setBox(row, CategoryColumn, category);
     auto *amount = new QDoubleSpinBox;
-    amount->setRange(0.0, kLargestAmount);
-    amount->setDecimals(2);
+    amount->setRange(0.0, AmountBox::kLargest);
     amount->setPrefix(tr("$ "));
     connect(amount, &QDoubleSpinBox::valueChanged, this, &SplitEditorDialog::updateRemaining);
     m_table->setBox(row, AmountColumn, amount);
@@ -156,7 +153,7 @@ QDoubleSpinBox *SplitEditorDialog::amountBox(int row) const
 
 qint64 SplitEditorDialog::centsAt(int row) const
 {
-    return std::llround(amountBox(row)->value() * 100.0);
+    return AmountBox::amountOf(amountBox(row));
 }
 
 void SplitEditorDialog::updateRemaining()

@@ -2,6 +2,8 @@
 
 #include <QCompleter>
 
+class QKeyEvent;
+
 // A completer inside a grid cell: Tab takes the highlighted entry and moves on, where a plain
 // completer would only close its list.
 class TabCompleter : public QCompleter

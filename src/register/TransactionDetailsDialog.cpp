@@ -84,7 +84,10 @@ void TransactionDetailsDialog::buildFields(QFormLayout *form)
     const QColor color = payment ? negativeColor() : positiveColor();
     amountLabel->setStyleSheet(u"color: %1; font-weight: 600;"_s.arg(color.name()));
     addField(form, tr("Category:"), categoryText(), u"categoryValue"_s);
-    addField(form, tr("Memo:"), m_transaction.memo, u"memoValue"_s)->setWordWrap(true);
+    QLabel *memo = addField(form, tr("Memo:"), m_transaction.memo, u"memoValue"_s);
+    memo->setWordWrap(true);
+    // All the width of the row: the form would break a short memo in two and show the first line.
+    memo->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred);
     addField(form, tr("Check #:"), m_transaction.check_number, u"checkNumberValue"_s);
     const QString otherId = m_transaction.transfer_dest_account_id;
     if (!otherId.isEmpty()) {

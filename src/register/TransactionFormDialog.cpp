@@ -7,8 +7,10 @@
 #include "data/CategoryRepository.h"
 #include "data/SplitLineRepository.h"
 #include "data/TransactionRepository.h"
+#include "register/AmountBox.h"
 #include "register/CategoryChoices.h"
 #include "register/DateField.h"
+#include "register/FieldLabel.h"
 #include "register/SmartAmountField.h"
 #include "register/SplitEditorDialog.h"
 
@@ -17,18 +19,16 @@
 #include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kLargestAmount = 99999999.99;
 constexpr int kMinimumWidth = 480; // pixels
 
 // A pile of receipts is typed in with many dialogs, mostly of one day.
@@ -74,7 +74,8 @@ void TransactionFormDialog::build()
     setMinimumWidth(kMinimumWidth);
     auto *form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->addRow(tr("Type:"), buildType());
+    QHBoxLayout *type = buildType();
+    form->addRow(makeFieldLabel(tr("Type:"), m_payment), type);
     m_date = new DateField(this);
     m_date->setObjectName(u"dateField"_s);
     form->addRow(tr("Date:"), m_date);
@@ -82,7 +83,8 @@ void TransactionFormDialog::build()
     form->addRow(tr("Payee:"), m_payee);
     buildAmount();
     form->addRow(tr("Amount:"), m_amount);
-    form->addRow(tr("Category:"), buildCategory());
+    QHBoxLayout *category = buildCategory();
+    form->addRow(makeFieldLabel(tr("Category:"), m_category), category);
     m_memo = makeOptionalEdit(u"memoEdit"_s);
     form->addRow(tr("Memo:"), m_memo);
     m_checkNumber = makeOptionalEdit(u"checkNumberEdit"_s);
@@ -135,7 +137,7 @@ void TransactionFormDialog::buildAmount()
 {
     m_amount = new SmartAmountField(this);
     m_amount->setObjectName(u"amountField"_s);
-    m_amount->setRange(0.0, kLargestAmount);
+    m_amount->setRange(0.0, AmountBox::kLargest);
     m_amount->setPrefix(tr("$ "));
 }
 
@@ -207,7 +209,7 @@ void TransactionFormDialog::showTransaction()
 void TransactionFormDialog::showAmount(qint64 amount)
 {
     (amount < 0 ? m_payment : m_deposit)->setChecked(true);
-    m_amount->setValue(static_cast<double>(absoluteMoney(amount)) / 100.0);
+    AmountBox::show(m_amount, absoluteMoney(amount));
 }
 
 void TransactionFormDialog::updateSplitDisplay()
@@ -267,9 +269,8 @@ void TransactionFormDialog::onClearSplit()
 qint64 TransactionFormDialog::typedAmount() const
 {
     // An amount that the box cannot hold shows as the box's limit; left alone, it stays as it was.
-    const qint64 amount = m_amount->value() == m_shownAmount
-        ? absoluteMoney(m_transaction.amount)
-        : std::llround(m_amount->value() * 100.0);
+    const qint64 amount = m_amount->value() == m_shownAmount ? absoluteMoney(m_transaction.amount)
+                                                             : AmountBox::amountOf(m_amount);
     return m_payment->isChecked() ? negateMoney(amount) : amount;
 }
 

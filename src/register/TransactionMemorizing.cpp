@@ -1,9 +1,9 @@
 #include "register/TransactionMemorizing.h"
 
 #include "core/state/AppState.h"
+#include "data/DueDates.h"
 #include "data/RecurringRepository.h"
 #include "register/RecurringFormDialog.h"
-#include "services/RecurringSchedule.h"
 
 namespace {
 

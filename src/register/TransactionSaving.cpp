@@ -12,7 +12,8 @@ bool replaceSplitLines(const AppState &appState, const QString &transactionId,
 {
     if (!appState.splitLines()->deleteByTransaction(transactionId))
         return false;
-    for (SplitLine line : lines) {
+    for (const SplitLine &entered : lines) {
+        SplitLine line = entered;
         line.transaction_id = transactionId;
         // The table refuses a line without a category. That is no reason to lose the others, nor
         // the transaction that was typed with them.

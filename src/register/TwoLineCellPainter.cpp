@@ -33,7 +33,7 @@ Qt::Alignment textAlignment(int column)
 bool readsNegative(const QString &balanceText)
 {
     QString digits = balanceText;
-    for (const QChar sign : u"$,()"_s)
+    for (const QChar sign : {u'$', u',', u'(', u')'})
         digits.remove(sign);
     bool isNumber = false;
     const double value = digits.toDouble(&isNumber);
@@ -122,7 +122,7 @@ void TwoLineCellPainter::paint(QPainter *painter, const QStyleOptionViewItem &op
     firstLine.setHeight(RegisterDelegate::kRowHeight);
     painter->setFont(option.font);
     painter->setPen(textColor(option, index));
-    painter->drawText(firstLine, textAlignment(index.column()),
+    painter->drawText(firstLine, static_cast<int>(textAlignment(index.column())),
                       option.fontMetrics.elidedText(index.data(Qt::DisplayRole).toString(),
                                                     Qt::ElideRight, firstLine.width()));
 

@@ -43,6 +43,7 @@ void CategoriesScreen::build()
     m_searchEdit = new QLineEdit(this);
     m_searchEdit->setObjectName(u"searchEdit"_s);
     m_searchEdit->setPlaceholderText(tr("Search categories..."));
+    m_searchEdit->setAccessibleName(m_searchEdit->placeholderText());
     m_searchEdit->setClearButtonEnabled(true);
     connect(m_searchEdit, &QLineEdit::textChanged, this, &CategoriesScreen::onSearch);
     auto *newButton = new QPushButton(tr("+ New Category"), this);
@@ -72,6 +73,7 @@ void CategoriesScreen::setUpTree()
 
     m_tree = new QTreeView(this);
     m_tree->setObjectName(u"categoryTree"_s);
+    m_tree->setAccessibleName(tr("Categories"));
     m_tree->setModel(m_proxy);
     m_tree->setAlternatingRowColors(true);
     m_tree->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -92,7 +94,7 @@ void CategoriesScreen::reloadTree()
     collectExpanded({}, expanded);
     const std::optional<Category> before = current();
     m_model->setCategories(m_appState->categories()->listActive());
-    for (const QString &id : expanded)
+    for (const QString &id : std::as_const(expanded))
         m_tree->expand(shownIndexOf(id));
     if (before)
         m_tree->setCurrentIndex(shownIndexOf(before->id));

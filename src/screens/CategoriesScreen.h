@@ -9,7 +9,6 @@
 #include <optional>
 
 class AppState;
-class CategoryFormDialog;
 class CategoryTreeModel;
 class QLineEdit;
 class QSortFilterProxyModel;

@@ -2,6 +2,7 @@
 
 #include "core/Dates.h"
 #include "core/Ids.h"
+#include "shell/theme/FieldHint.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -44,7 +45,7 @@ void CategoryFormDialog::build(const QList<Category> &categories)
     setMinimumWidth(kMinimumWidth);
     m_name = new QLineEdit(this);
     m_name->setObjectName(u"nameEdit"_s);
-    m_name->setPlaceholderText(tr("Category name"));
+    setFieldHint(m_name, tr("Category name"));
     m_type = new QComboBox(this);
     m_type->setObjectName(u"typeCombo"_s);
     m_type->addItem(tr("Expense"), categoryTypeToString(CategoryType::Expense));
@@ -54,7 +55,7 @@ void CategoryFormDialog::build(const QList<Category> &categories)
     m_taxRelevant->setToolTip(tr("Mark this category for inclusion in tax-time reports."));
     m_taxCode = new QLineEdit(this);
     m_taxCode->setObjectName(u"taxCodeEdit"_s);
-    m_taxCode->setPlaceholderText(tr("e.g. charitable_contributions, mortgage_interest"));
+    setFieldHint(m_taxCode, tr("e.g. charitable_contributions, mortgage_interest"));
     m_taxCode->setEnabled(false);
     connect(m_taxRelevant, &QCheckBox::toggled, m_taxCode, &QWidget::setEnabled);
 

@@ -1,5 +1,6 @@
 #include "screens/ComparisonBar.h"
 
+#include "register/FieldLabel.h"
 #include "screens/ScreenDates.h"
 #include "shell/theme/MoneyColors.h"
 
@@ -27,13 +28,11 @@ ComparisonBar::ComparisonBar(Clock today, QWidget *parent)
                         tr("This Quarter vs Last Quarter"), tr("Custom")});
     m_label->setObjectName(u"comparisonLabel"_s);
     m_label->setStyleSheet(u"color: %1;"_s.arg(mutedColor().name()));
-    auto *title = new QLabel(tr("Compare:"), this);
-    title->setBuddy(m_choice);
-
+    QLabel *title = makeFieldLabel(tr("Compare:"), m_choice);
     auto *edits = new QHBoxLayout(m_custom);
     edits->setContentsMargins(0, 0, 0, 0);
-    addEdits(edits, tr("P1:"), {u"period1From"_s, u"period1To"_s});
-    addEdits(edits, tr("P2:"), {u"period2From"_s, u"period2To"_s});
+    addEdits(edits, tr("P1:"), {{u"period1From"_s, tr("P1 from")}, {u"period1To"_s, tr("P1 to")}});
+    addEdits(edits, tr("P2:"), {{u"period2From"_s, tr("P2 from")}, {u"period2To"_s, tr("P2 to")}});
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
@@ -47,13 +46,14 @@ ComparisonBar::ComparisonBar(Clock today, QWidget *parent)
     refresh();
 }
 
-void ComparisonBar::addEdits(QHBoxLayout *row, const QString &title, const QStringList &names)
+void ComparisonBar::addEdits(QHBoxLayout *row, const QString &title, const QList<Named> &names)
 {
     auto *label = new QLabel(title, m_custom);
     row->addWidget(label);
-    for (const QString &name : names) {
+    for (const auto &[name, spokenName] : names) {
         auto *edit = new QDateEdit(m_custom);
         edit->setObjectName(name);
+        edit->setAccessibleName(spokenName); // the label names two
         setUpShortDateEdit(edit);
         edit->setKeyboardTracking(false); // a report for each digit of a year would be in the way
         connect(edit, &QDateEdit::dateChanged, this, &ComparisonBar::periodsChanged);

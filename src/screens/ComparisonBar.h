@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <utility>
 
 class QComboBox;
 class QDateEdit;
@@ -28,7 +29,9 @@ Q_SIGNALS:
     void periodsChanged(); // once, however many of the dates changed
 
 private:
-    void addEdits(QHBoxLayout *row, const QString &title, const QStringList &names);
+    using Named = std::pair<QString, QString>; // an object name and what a screen reader says
+
+    void addEdits(QHBoxLayout *row, const QString &title, const QList<Named> &names);
     void onChosen(int choice);
     void setPeriods(const ReportPeriods::Compared &periods);
 

@@ -1,5 +1,6 @@
 #include "screens/CsvMappingForm.h"
 
+#include "register/FieldLabel.h"
 #include "services/CsvReader.h"
 #include "shell/theme/FontRoles.h"
 
@@ -91,9 +92,7 @@ QComboBox *CsvMappingForm::addField(QGridLayout *grid, const QString &name, cons
     combo->setObjectName(name);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    auto *caption = new QLabel(label);
-    caption->setBuddy(combo);
-    grid->addWidget(caption, place / 2, place % 2 * 2);
+    grid->addWidget(makeFieldLabel(label, combo), place / 2, place % 2 * 2);
     grid->addWidget(combo, place / 2, place % 2 * 2 + 1);
     return combo;
 }
@@ -102,6 +101,7 @@ void CsvMappingForm::buildPreview()
 {
     m_preview = new QTableWidget;
     m_preview->setObjectName(u"previewTable"_s);
+    m_preview->setAccessibleName(tr("Preview"));
     m_preview->setMinimumHeight(kPreviewHeight);
     m_preview->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_preview->setAlternatingRowColors(true);

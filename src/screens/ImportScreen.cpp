@@ -5,6 +5,7 @@
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
 #include "register/AccountCreation.h"
+#include "register/FieldLabel.h"
 #include "screens/CsvMappingForm.h"
 #include "screens/ImportSummary.h"
 #include "screens/QifMappingForm.h"
@@ -101,7 +102,8 @@ QLayout *ImportScreen::buildSourceFields()
     m_formatLabel = new QLabel(tr("&Format:"));
     fields->addRow(m_formatLabel, buildFormatRow());
     fields->addRow(tr("&Account:"), m_accountCombo);
-    fields->addRow(tr("File:"), buildFileRow());
+    QLayout *fileRow = buildFileRow();
+    fields->addRow(makeFieldLabel(tr("File:"), m_browseButton), fileRow);
     return fields;
 }
 
@@ -141,7 +143,9 @@ QWidget *ImportScreen::buildSummaryPage()
     auto *page = new QWidget;
     m_summary = new QPlainTextEdit;
     m_summary->setObjectName(u"summaryText"_s);
+    m_summary->setAccessibleName(tr("Result"));
     m_summary->setReadOnly(true);
+    m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_summary->setTabChangesFocus(true);
     m_doneButton = new QPushButton(tr("Done"));
     m_doneButton->setObjectName(u"doneButton"_s);

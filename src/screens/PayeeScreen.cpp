@@ -4,6 +4,7 @@
 #include "data/Database.h"
 #include "data/SqlTransaction.h"
 #include "data/TransactionRepository.h"
+#include "register/FieldLabel.h"
 #include "shell/theme/FontRoles.h"
 
 #include <QLabel>
@@ -38,12 +39,12 @@ void PayeeScreen::build()
     auto *heading = new QLabel(tr("Payee Management"), this);
     applyFontRole(heading, FontRole::Heading, QFont::Bold);
     m_payeeList->setObjectName(u"payeeList"_s);
+    m_payeeList->setAccessibleName(tr("Payees"));
     m_payeeList->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_payeeList->setUniformItemSizes(true); // thousands of names, all of one line
     m_renameEdit->setObjectName(u"renameEdit"_s);
     m_renameEdit->setMinimumWidth(kMinNameWidth); // the buttons grow with the font
-    auto *label = new QLabel(tr("Rename to:"), this);
-    label->setBuddy(m_renameEdit);
+    QLabel *label = makeFieldLabel(tr("Rename to:"), m_renameEdit);
     auto *rename = new QPushButton(tr("Rename Selected"), this);
     rename->setObjectName(u"renameButton"_s);
     connect(rename, &QPushButton::clicked, this, &PayeeScreen::onRename);

@@ -88,6 +88,7 @@ void ReconciliationHistoryScreen::refresh()
     const std::optional<Account> account = m_appState->accounts()->findById(m_accountId);
     m_titleLabel->setText(account ? tr("Reconciliation History — %1").arg(account->name)
                                   : tr("Reconciliation History"));
+    m_table->setAccessibleName(m_titleLabel->text());
     const Currency currency = account ? account->currency : Currency::USD;
     const QList<Reconciliation> history = m_appState->reconciliations()->listByAccount(m_accountId);
     m_table->setRowCount(static_cast<int>(history.size()));

@@ -32,6 +32,8 @@ QVariant ReconciliationModel::data(const QModelIndex &index, int role) const
         if (column == Tick)
             return m_checked.at(index.row()) ? Qt::Checked : Qt::Unchecked;
         return {};
+    case Qt::AccessibleTextRole:
+        return spokenText(index);
     case Qt::TextAlignmentRole:
         return column == Amount ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case Qt::ForegroundRole:
@@ -57,6 +59,16 @@ QString ReconciliationModel::displayText(const Transaction &transaction, int col
     }
 }
 
+// The tick and the sign as words; invalid where what is shown can be read out as it stands.
+QVariant ReconciliationModel::spokenText(const QModelIndex &index) const
+{
+    if (index.column() == Tick)
+        return m_checked.at(index.row()) ? tr("Ticked") : tr("Not ticked");
+    if (index.column() == Cleared)
+        return m_transactions.at(index.row()).cleared ? tr("Cleared") : tr("Uncleared");
+    return {};
+}
+
 bool ReconciliationModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     if (!index.isValid() || index.column() != Tick || role != Qt::CheckStateRole)
@@ -68,6 +80,8 @@ bool ReconciliationModel::setData(const QModelIndex &index, const QVariant &valu
 
 QVariant ReconciliationModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::AccessibleTextRole && section == Tick)
+        return tr("Ticked"); // its head is blank
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (section) {

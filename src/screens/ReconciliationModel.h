@@ -44,6 +44,7 @@ Q_SIGNALS:
 
 private:
     QString displayText(const Transaction &transaction, int column) const;
+    QVariant spokenText(const QModelIndex &index) const;
 
     QList<Transaction> m_transactions; // oldest first
     QList<bool> m_checked; // one per transaction

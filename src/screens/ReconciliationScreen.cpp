@@ -8,7 +8,9 @@
 #include "data/ReconciliationRepository.h"
 #include "data/SqlTransaction.h"
 #include "data/TransactionRepository.h"
+#include "register/AmountBox.h"
 #include "register/DateField.h"
+#include "register/FieldLabel.h"
 #include "register/SmartAmountField.h"
 #include "register/TransactionFormDialog.h"
 #include "screens/ReconciliationModel.h"
@@ -16,6 +18,7 @@
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/ThemeManager.h"
 
+#include <QAccessible>
 #include <QDebug>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -27,13 +30,10 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kMaxBalance = 99999999.99;
 constexpr int kTickWidth = 30;
 constexpr int kMinTextWidth = 100;
 
@@ -100,7 +100,7 @@ QWidget *ReconciliationScreen::buildStatementPanel()
     applyFontRole(heading, FontRole::Subheading, QFont::Bold);
     m_statementDate->setObjectName(u"statementDate"_s);
     m_statementBalance->setObjectName(u"statementBalance"_s);
-    m_statementBalance->setRange(-kMaxBalance, kMaxBalance);
+    m_statementBalance->setRange(-AmountBox::kLargest, AmountBox::kLargest);
     m_statementBalance->setPrefix(tr("$ ")); // alike for every account, as in the other forms
     m_summary->setObjectName(u"summary"_s);
     m_finishButton = addButton(u"finishButton"_s, tr("Finish Reconciliation"), QString(),
@@ -114,10 +114,10 @@ QWidget *ReconciliationScreen::buildStatementPanel()
     column->setContentsMargins(16, 16, 16, 16);
     column->addWidget(heading);
     column->addSpacing(16);
-    column->addWidget(new QLabel(tr("Statement Date:")));
+    column->addWidget(makeFieldLabel(tr("Statement Date:"), m_statementDate));
     column->addWidget(m_statementDate);
     column->addSpacing(8);
-    column->addWidget(new QLabel(tr("Statement Balance:")));
+    column->addWidget(makeFieldLabel(tr("Statement Balance:"), m_statementBalance));
     column->addWidget(m_statementBalance);
     column->addSpacing(16);
     column->addWidget(m_summary);
@@ -152,6 +152,7 @@ QWidget *ReconciliationScreen::buildTransactionPanel()
 void ReconciliationScreen::buildTable()
 {
     m_table->setObjectName(u"transactionTable"_s);
+    m_table->setAccessibleName(tr("Transactions"));
     m_table->setModel(m_model);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection); // the buttons take one row
@@ -270,14 +271,26 @@ const Transaction *ReconciliationScreen::selectedTransaction() const
 
 void ReconciliationScreen::onTransactionToggled(int row)
 {
-    if (row >= 0 && row < m_model->rowCount())
-        m_model->toggle(row);
+    if (row < 0 || row >= m_model->rowCount())
+        return;
+    m_model->toggle(row);
+    tellTick(row);
 }
 
-// The box counts in hundredths also for a currency that has none.
+// A view does not tell screen readers of a change in the cell that has the focus.
+void ReconciliationScreen::tellTick(int row)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleTableInterface *table =
+        QAccessible::queryAccessibleInterface(m_table)->tableInterface();
+    QAccessibleEvent event(table->cellAt(row, ReconciliationModel::Tick), QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
 qint64 ReconciliationScreen::statementBalance() const
 {
-    return std::llround(m_statementBalance->value() * 100.0);
+    return AmountBox::amountOf(m_statementBalance);
 }
 
 Currency ReconciliationScreen::currency() const

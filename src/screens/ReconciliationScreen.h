@@ -55,6 +55,7 @@ private:
                            void (ReconciliationScreen::*slot)());
     void addShortcut(const QList<QKeySequence> &keys, void (ReconciliationScreen::*slot)());
     void fitColumns();
+    void tellTick(int row);
 
     QDate readSettledPart(const Account &account); // the latest day in it
     void proposeStatementDate(QDate latestSettled);

@@ -72,6 +72,7 @@ void RecurringScreen::setUpTable()
 {
     m_table = new QTableView(this);
     m_table->setObjectName(u"recurringTable"_s);
+    m_table->setAccessibleName(tr("Recurring Transactions"));
     m_table->setModel(m_model);
     m_table->setAlternatingRowColors(true);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -79,6 +80,7 @@ void RecurringScreen::setUpTable()
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setContextMenuPolicy(Qt::CustomContextMenu);
     m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false); // Tab leads on to the buttons
     m_table->verticalHeader()->hide();
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::ResizeToContents);

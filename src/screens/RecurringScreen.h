@@ -8,7 +8,6 @@
 
 class AppState;
 class QLabel;
-class QPushButton;
 class QTableView;
 
 // All recurring templates, to be confirmed, skipped, edited, deleted or entered. It shows no

@@ -4,10 +4,12 @@
 #include "data/AccountRepository.h"
 #include "data/CategoryRepository.h"
 #include "data/TransactionRepository.h"
+#include "register/FieldLabel.h"
 #include "screens/ComparisonBar.h"
 #include "screens/ReportFill.h"
 #include "screens/ReportPeriods.h"
 #include "screens/ReportTable.h"
+#include "screens/ReportTabs.h"
 #include "screens/ScreenDates.h"
 #include "services/ReportService.h"
 #include "shell/theme/FontRoles.h"
@@ -22,7 +24,6 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShowEvent>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -69,21 +70,19 @@ QHBoxLayout *ReportsScreen::buildFilters()
     m_accountCombo->setObjectName(u"accountCombo"_s);
     m_accountCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_accountCombo->setMinimumContentsLength(kAccountChars);
-    auto *accountLabel = new QLabel(tr("Account:"), this);
-    accountLabel->setBuddy(m_accountCombo);
+    QLabel *accountLabel = makeFieldLabel(tr("Account:"), m_accountCombo);
     m_periodCombo = new QComboBox(this);
     m_periodCombo->setObjectName(u"periodCombo"_s);
     m_periodCombo->addItems({tr("This Month"), tr("Last Month"), tr("This Quarter"),
                              tr("Last Quarter"), tr("This Year"), tr("Last Year"),
                              tr("Last 30 Days"), tr("Last 90 Days"), tr("Last 12 Months"),
                              tr("All Time"), tr("Custom")});
-    auto *periodLabel = new QLabel(tr("Period:"), this);
-    periodLabel->setBuddy(m_periodCombo);
+    QLabel *periodLabel = makeFieldLabel(tr("Period:"), m_periodCombo);
     m_rangeLabel = new QLabel(this);
     m_rangeLabel->setObjectName(u"rangeLabel"_s);
     m_rangeLabel->setStyleSheet(u"color: %1;"_s.arg(mutedColor().name()));
-    m_fromDate = makeDateEdit(u"fromDate"_s);
-    m_toDate = makeDateEdit(u"toDate"_s);
+    m_fromDate = makeDateEdit(u"fromDate"_s, tr("From"));
+    m_toDate = makeDateEdit(u"toDate"_s, tr("To"));
     m_exportButton = new QPushButton(tr("Export CSV"), this);
     m_exportButton->setObjectName(u"exportButton"_s);
 
@@ -101,10 +100,11 @@ QHBoxLayout *ReportsScreen::buildFilters()
     return row;
 }
 
-QDateEdit *ReportsScreen::makeDateEdit(const QString &name)
+QDateEdit *ReportsScreen::makeDateEdit(const QString &name, const QString &spokenName)
 {
     auto *edit = new QDateEdit(this);
     edit->setObjectName(name);
+    edit->setAccessibleName(spokenName);
     setUpShortDateEdit(edit);
     edit->setKeyboardTracking(false); // eight reports for each digit of a year would be in the way
     edit->hide();
@@ -113,7 +113,7 @@ QDateEdit *ReportsScreen::makeDateEdit(const QString &name)
 
 void ReportsScreen::buildTabs()
 {
-    m_tabs = new QTabWidget(this);
+    m_tabs = new ReportTabs(this);
     m_tabs->setObjectName(u"reportTabs"_s);
     m_comparison = new ComparisonBar(m_today, this);
     addTab(tr("Category Spending"), new ReportTable({tr("Category"), tr("Total")}, 1));
@@ -137,6 +137,7 @@ void ReportsScreen::buildTabs()
 
 void ReportsScreen::addTab(const QString &title, ReportTable *table, QWidget *above)
 {
+    table->setAccessibleName(title);
     m_tables << table;
     if (!above) {
         m_tabs->addTab(table, title);

@@ -56,7 +56,7 @@ private:
 
     void build();
     QHBoxLayout *buildFilters();
-    QDateEdit *makeDateEdit(const QString &name);
+    QDateEdit *makeDateEdit(const QString &name, const QString &spokenName);
     void buildTabs();
     void addTab(const QString &title, ReportTable *table, QWidget *above = nullptr);
     void listen();

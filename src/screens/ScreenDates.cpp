@@ -1,6 +1,6 @@
 #include "screens/ScreenDates.h"
 
-#include "core/Dates.h"
+#include "register/DateInput.h"
 
 #include <QCalendarWidget>
 #include <QDateEdit>
@@ -17,7 +17,7 @@ void setUpDateEdit(QDateEdit *edit, const QString &displayFormat)
     edit->setCalendarPopup(true);
     auto *calendar = new QCalendarWidget; // the edit takes it
     calendar->setLocale(QLocale());
-    calendar->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>(weekStart()));
+    DateInput::setUpCalendar(calendar);
     edit->setCalendarWidget(calendar);
 }
 

@@ -5,6 +5,7 @@
 #include "data/CategoryRepository.h"
 #include "data/TransactionRepository.h"
 #include "register/CategoryChoices.h"
+#include "register/FieldLabel.h"
 #include "register/RegisterColumn.h"
 #include "register/RegisterModel.h"
 #include "screens/ScreenDates.h"
@@ -47,13 +48,6 @@ void fitFirstItem(QComboBox *combo)
     combo->setMinimumWidth(width + kComboFrame);
 }
 
-QLabel *makeLabelFor(QComboBox *combo, const QString &text)
-{
-    auto *label = new QLabel(text, combo->parentWidget());
-    label->setBuddy(combo);
-    return label;
-}
-
 } // namespace
 
 SearchScreen::SearchScreen(AppState *appState, QWidget *parent)
@@ -71,6 +65,7 @@ void SearchScreen::build()
     m_searchField = new QLineEdit(this);
     m_searchField->setObjectName(u"searchField"_s);
     m_searchField->setPlaceholderText(tr("Search payee, memo, check number..."));
+    m_searchField->setAccessibleName(m_searchField->placeholderText());
     m_searchField->setClearButtonEnabled(true);
     QHBoxLayout *filters = buildFilters();
     setUpTable();
@@ -90,19 +85,20 @@ QHBoxLayout *SearchScreen::buildFilters()
     m_dateRangeCheck->setObjectName(u"dateRangeCheck"_s);
     const QDate today = QDate::currentDate();
     m_dateFrom = makeDateEdit(u"dateFrom"_s, today.addMonths(-1));
+    m_dateFrom->setAccessibleName(m_dateRangeCheck->text());
     m_dateTo = makeDateEdit(u"dateTo"_s, today);
     m_clearedCheck = new QCheckBox(tr("Cleared only"), this);
     m_clearedCheck->setObjectName(u"clearedCheck"_s);
 
     auto *row = new QHBoxLayout;
     row->setSpacing(kFilterSpacing);
-    row->addWidget(makeLabelFor(m_accountCombo, tr("Account:")));
+    row->addWidget(makeFieldLabel(tr("Account:"), m_accountCombo));
     row->addWidget(m_accountCombo, 1);
-    row->addWidget(makeLabelFor(m_categoryCombo, tr("Category:")));
+    row->addWidget(makeFieldLabel(tr("Category:"), m_categoryCombo));
     row->addWidget(m_categoryCombo, 1);
     row->addWidget(m_dateRangeCheck);
     row->addWidget(m_dateFrom);
-    row->addWidget(new QLabel(tr("to"), this));
+    row->addWidget(makeFieldLabel(tr("to"), m_dateTo));
     row->addWidget(m_dateTo);
     row->addWidget(m_clearedCheck);
     return row;
@@ -121,6 +117,7 @@ void SearchScreen::setUpTable()
 {
     m_resultsView = new QTableView(this);
     m_resultsView->setObjectName(u"resultsView"_s);
+    m_resultsView->setAccessibleName(tr("Results"));
     m_resultsView->setModel(m_model);
     m_resultsView->setAlternatingRowColors(true);
     m_resultsView->setSelectionBehavior(QAbstractItemView::SelectRows);

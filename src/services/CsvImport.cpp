@@ -103,12 +103,10 @@ void CsvImport::store(Transaction transaction, const DuplicateKey &key)
     transaction.id = newId();
     transaction.created_at = currentStamp();
     transaction.updated_at = transaction.created_at;
-    if (m_categories.failedOnDisk()) {
-        abort();
-    } else if (m_stores.transactions->insert(transaction)) {
+    if (!m_categories.failedOnDisk() && m_stores.transactions->insert(transaction)) {
         ++m_result.imported;
         m_keys.insert(key);
-    } else if (m_stores.transactions->insertFailedOnDisk()) {
+    } else if (m_categories.failedOnDisk() || m_stores.transactions->insertFailedOnDisk()) {
         abort();
     }
 }

@@ -3,11 +3,6 @@
 #include "core/Dates.h"
 #include "core/Ids.h"
 
-bool isBrokenDueDate(QDate date)
-{
-    return !date.isValid() || date < kEarliestValidDate;
-}
-
 QDate computeNextDate(QDate date, Frequency frequency)
 {
     switch (frequency) {

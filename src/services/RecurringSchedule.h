@@ -5,11 +5,6 @@
 #include <QDate>
 #include <QString>
 
-// Nothing in the program is older: an earlier date is one that went wrong on its way.
-inline const QDate kEarliestValidDate(2000, 1, 1);
-
-bool isBrokenDueDate(QDate date); // also true for a null date
-
 // The day on which the occurrence after that of the given day is due. A day that the month does
 // not have becomes its last one, and stays there: after February 29 comes March 29.
 QDate computeNextDate(QDate date, Frequency frequency);

@@ -1,6 +1,7 @@
 #include "services/RecurringService.h"
 
 #include "core/Dates.h"
+#include "data/DueDates.h"
 #include "data/RecurringRepository.h"
 #include "data/SqlTransaction.h"
 #include "services/OccurrencePoster.h"

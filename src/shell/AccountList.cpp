@@ -1,5 +1,6 @@
 #include "shell/AccountList.h"
 
+#include "core/Money.h"
 #include "data/Account.h"
 #include "shell/AccountListRow.h"
 #include "shell/theme/FontRoles.h"
@@ -50,6 +51,7 @@ QString accountListStyle()
 AccountList::AccountList(QWidget *parent)
     : QListWidget(parent)
 {
+    setAccessibleName(tr("Accounts"));
     setMinimumWidth(kMinWidth);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -65,6 +67,10 @@ void AccountList::addAccount(const Account &account, qint64 balance)
     auto *row = new AccountListRow(account, balance);
     auto *item = new QListWidgetItem;
     item->setData(Qt::UserRole, account.id);
+    // The item itself has no text: the row widget lies over it.
+    item->setData(Qt::AccessibleTextRole,
+                  u"%1, %2"_s.arg(account.name, formatMoney(balance, account.currency)));
+    item->setData(Qt::AccessibleDescriptionRole, AccountListRow::describe(account));
     item->setSizeHint({viewport()->width(), row->sizeHint().height() + kRowPadding});
     addItem(item);
     setItemWidget(item, row);

@@ -40,6 +40,7 @@ QLabel *iconLabel(AccountType type)
 {
     auto *label = new QLabel(typeGlyph(type));
     label->setObjectName(u"iconLabel"_s);
+    label->setAccessibleName(AccountTypeName::of(type)); // the glyph is no letter of any script
     label->setFixedSize(24, 24);
     label->setAlignment(Qt::AlignCenter);
     label->setFont(iconFont(22));

@@ -13,6 +13,5 @@ class AccountListRow : public QWidget
 public:
     AccountListRow(const Account &account, qint64 balance, QWidget *parent = nullptr);
 
-private:
-    static QString describe(const Account &account);
+    static QString describe(const Account &account); // the second line
 };

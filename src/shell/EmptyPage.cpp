@@ -36,6 +36,7 @@ QLabel *mutedLabel(const QString &text, int fontRole)
 QLabel *iconLabel()
 {
     auto *label = new QLabel(kWalletGlyph);
+    label->setAccessibleName(u" "_s); // the glyph is no letter of any script
     label->setAlignment(Qt::AlignCenter);
     label->setFont(iconFont(kIconPixels));
     label->setStyleSheet(u"color: #4DB6AC;"_s);
@@ -47,7 +48,8 @@ QPushButton *createButton(const QString &text)
     auto *button = new QPushButton(text);
     button->setObjectName(u"createAccountButton"_s);
     // A width in the style goes before the widget's own; with its padding this one makes 180.
-    button->setStyleSheet(primaryButtonStyle() + u"QPushButton { min-width: 148px; }"_s);
+    button->setStyleSheet(primaryButtonStyle() + primaryButtonFocusStyle()
+                          + u"QPushButton { min-width: 148px; }"_s);
     button->setMinimumHeight(40);
     button->setCursor(Qt::PointingHandCursor);
     applyFontRole(button, FontRole::Body); // a style sheet cuts it off from the application's font

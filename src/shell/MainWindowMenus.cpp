@@ -12,6 +12,7 @@
 #include "register/RegisterScreen.h"
 #include "shell/FeedbackPage.h"
 #include "shell/StatusBar.h"
+#include "shell/theme/MoneyColors.h"
 
 #include <QAction>
 #include <QApplication>
@@ -27,11 +28,12 @@ QString keyText(const QString &keys)
     return QKeySequence(keys).toString();
 }
 
-// In the accent colour: the platform's own blue is unreadable on the dark palette.
+// Near the accent colour: the platform's own blue is unreadable on the dark palette, the accent
+// itself too pale on the light one.
 QString linkTo(const QString &address)
 {
     return u"<a href=\"%1\" style=\"color: %2\">%1</a>"_s.arg(
-        address, QGuiApplication::palette().color(QPalette::Highlight).name());
+        address, isDarkPalette() ? u"#4DB6AC"_s : u"#00796B"_s);
 }
 
 KestUpdate::ProgressCallbacks progressOn(QPointer<StatusBar> statusBar)
@@ -205,6 +207,8 @@ void MainWindow::showAboutBox()
                     QMessageBox::Ok, this);
     box.setObjectName(u"aboutBox"_s);
     box.setTextFormat(Qt::RichText);
+    box.setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    box.setDefaultButton(QMessageBox::Ok); // or the first link would have the focus
     box.setIconPixmap(windowIcon().pixmap(64, 64));
     box.exec();
 }

@@ -15,8 +15,10 @@
 #include "screens/ReportsScreen.h"
 #include "screens/SearchScreen.h"
 #include "shell/SettingsScreen.h"
+#include "shell/theme/FontRoles.h"
 
 #include <QPointer>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +31,12 @@ template <typename Screen> QPointer<Screen> &screenOf()
     return screen;
 }
 
+// The sizes are meant for a text of the usual height; a larger one needs more room in both ways.
+QSize sizeForFont(QSize size, QSize screen)
+{
+    return (size * fontScale() / 100).boundedTo(screen).expandedTo(size);
+}
+
 } // namespace
 
 // The first showing makes it a window of this one, so that it stays in front of it and closes with
@@ -38,7 +46,7 @@ void MainWindow::presentWindow(QWidget *window, const QString &title, QSize size
     window->setWindowTitle(title);
     if (!window->parentWidget()) {
         window->setParent(this, Qt::Window);
-        window->resize(size);
+        window->resize(sizeForFont(size, screen()->availableSize()));
     }
     if (window->isMinimized())
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);

@@ -4,7 +4,6 @@
 
 class AppState;
 class QComboBox;
-class QFormLayout;
 
 // The choices of look, week and language, set to what is in force. It stores nothing.
 class SettingsGeneralPage : public SettingsPage

@@ -3,8 +3,10 @@
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/MaterialIcon.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -12,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kWidth = 180;
+constexpr int kPadding = 2 * 8; // by its style, around the rows
 constexpr int kIconSize = 20;
 constexpr std::array<char32_t, 4> kGlyphs{0xE8B8, 0xE8EF, 0xE627, 0xE88E}; // by row
 
@@ -35,12 +38,25 @@ SettingsNavigation::SettingsNavigation(QWidget *parent)
 {
     setObjectName(u"navigation"_s);
     setAccessibleName(tr("Pages"));
-    setFixedWidth(kWidth);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setIconSize({kIconSize, kIconSize});
     applyFontRole(this, FontRole::Body);
     addItems({tr("General"), tr("Register"), tr("Data & Sync"), tr("About")});
     applyTheme();
+    fitToFont();
+}
+
+void SettingsNavigation::changeEvent(QEvent *event)
+{
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitToFont();
+}
+
+// Larger than designed only for a font whose letters would be cut.
+void SettingsNavigation::fitToFont()
+{
+    setFixedWidth(std::max(kWidth, sizeHintForColumn(0) + kPadding));
 }
 
 void SettingsNavigation::applyTheme()
@@ -52,7 +68,9 @@ void SettingsNavigation::applyTheme()
                       paletteColor(QPalette::Base).name(), paletteColor(QPalette::Text).name(),
                       paletteColor(QPalette::Button).name(),
                       paletteColor(QPalette::Highlight).name(),
-                      paletteColor(QPalette::HighlightedText).name()));
+                      paletteColor(QPalette::HighlightedText).name())
+                  + u"QListWidget:focus {  border-right: 2px solid %1;  padding-right: 6px;}"_s.arg(
+                      paletteColor(QPalette::Highlight).name()));
     for (int row = 0; row < count(); ++row)
         item(row)->setIcon(iconOf(kGlyphs.at(static_cast<size_t>(row))));
 }

@@ -11,4 +11,10 @@ public:
     explicit SettingsNavigation(QWidget *parent = nullptr);
 
     void applyTheme(); // its colours and icons do not follow the palette by themselves
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void fitToFont();
 };

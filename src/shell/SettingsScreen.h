@@ -8,7 +8,6 @@ class SettingsDeletedAccounts;
 class SettingsGeneralPage;
 class SettingsNavigation;
 class SettingsPage;
-class SettingsRegisterPage;
 class SettingsSyncSection;
 
 // All choices of the person, on a few pages. Each is stored and takes effect as it is made.

@@ -26,7 +26,7 @@ QString colorStyle(const QString &color)
 void makePrimary(QPushButton *button)
 {
     button->setFlat(false);
-    button->setStyleSheet(primaryButtonStyle());
+    button->setStyleSheet(primaryButtonStyle() + primaryButtonFocusStyle());
     button->setMinimumHeight(kButtonHeight);
 }
 

@@ -16,8 +16,6 @@ private Q_SLOTS:
     void readsTextAsQtDoes();
     void writesOneForm();
     void currentStampSurvivesBeingStored();
-    void twoDigitYearsBelongTo1900_data();
-    void twoDigitYearsBelongTo1900();
     void weekStartsAsInTheLocaleUntilChanged();
 };
 
@@ -83,23 +81,6 @@ void DatesTest::currentStampSurvivesBeingStored()
     QCOMPARE(stamp.timeSpec(), Qt::UTC);
     QVERIFY(stamp > before);
     QVERIFY(stamp <= QDateTime::currentDateTimeUtc());
-}
-
-void DatesTest::twoDigitYearsBelongTo1900_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QDate>("date");
-
-    QTest::newRow("two digits") << u"3/14/25"_s << u"M/d/yy"_s << QDate(1925, 3, 14);
-    QTest::newRow("four digits") << u"14.03.2025"_s << u"dd.MM.yyyy"_s << QDate(2025, 3, 14);
-}
-
-void DatesTest::twoDigitYearsBelongTo1900()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, format);
-    QTEST(dateFromText(text, format), "date");
 }
 
 void DatesTest::weekStartsAsInTheLocaleUntilChanged()

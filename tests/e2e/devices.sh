@@ -8,10 +8,12 @@ declare -A running=() # the process of each device
 
 # --- the service and the browser -----------------------------------------------------------------
 
+# start_service <program of it> <more options>...
 start_service() {
   # shellcheck disable=SC2034 # read by lib/tour.sh
   local_service=$1
-  start_local_service --database "$stage/service.db"
+  shift
+  start_local_service --database "$stage/service.db" "$@"
   export AUTH_BASE_URL=$service_address ACCOUNT_API_URL=$service_address/account/v1
   export SYNC_API_URL=$service_address/pursewell/v1
 }
@@ -21,15 +23,42 @@ misbehave() {
   curl --silent --show-error --fail --max-time 20 --data "$1" "$service_address/control/fault"
 }
 
+served() {
+  sqlite3 -cmd '.timeout 5000' -separator ' | ' "$stage/service.db" "$1"
+}
+
+service_has() {
+  [ "$(served "$2")" = "$1" ]
+}
+
+# wait_for_service <answer> <statement>
+wait_for_service() {
+  wait_until 20 "\"$1\" at the service from: $2" service_has "$1" "$2"
+}
+
 served_rows() {
-  sqlite3 -cmd '.timeout 5000' "$stage/service.db" \
-    "SELECT COUNT(*) FROM records WHERE entity_type = 'transaction' AND NOT is_deleted"
+  served "SELECT COUNT(*) FROM records WHERE entity_type = 'transaction' AND NOT is_deleted"
+}
+
+# token_of <user>: of a session of its own, as another program would have it.
+token_of() {
+  curl --silent --show-error --max-time 20 --output /dev/null \
+    --write-out '%{redirect_url}' --data "email=$1@example.com" --data password=secret \
+    --user-agent 'Some browser with a name that goes on for more than sixty characters' \
+    "$service_address/kestrelwood/account/login?redirect_uri=http%3A%2F%2Flocalhost%2F" \
+    | grep -o 'access_token=[^&]*' | cut -d = -f 2
+}
+
+# ask_service <token> <path> [body as JSON]
+ask_service() {
+  curl --silent --show-error --fail --max-time 20 --data "${3:-}" \
+    --header "Authorization: Bearer $1" "$service_address/$2"
 }
 
 # Stands where the desktop's opener is looked for first: sees the login page, sends its form as it
 # stands, and goes where it is sent, which is the program's own listener.
 make_browser() {
-  mkdir "$stage/bin"
+  mkdir -p "$stage/bin"
   cat >"$stage/bin/xdg-open" <<'SH'
 #!/bin/sh
 exec >>"$BROWSER_LOG" 2>&1

@@ -31,7 +31,7 @@ private Q_SLOTS:
     void signsOutAtOnce();
     void refusedRefreshSignsOut();
     void keepsTheLastKnownUser();
-    void speaksOfPasswordAndSessions();
+    void listsSessions();
 
 private:
     void start(const QString &access, const QString &refresh);
@@ -279,30 +279,20 @@ void AuthClientTest::keepsTheLastKnownUser()
     QCOMPARE(m_auth->currentUser(), User());
 }
 
-void AuthClientTest::speaksOfPasswordAndSessions()
+void AuthClientTest::listsSessions()
 {
     start(tokenFor(60), u"r"_s);
     m_auth->initialize();
-    m_service->answer(u"POST /users/me/password"_s, {{.status = 204}, {.status = 400}});
     m_service->answer(u"GET /users/me/sessions"_s,
                       {{.body = R"({"sessions":[{"id":"s1","is_current":true},7]})"},
                        {.body = R"({"sessions":"none"})"},
                        {.status = 500, .body = R"({"sessions":[{"id":"s1"}]})"}});
-    QStringList answers;
-    for (int attempt = 0; attempt < 2; ++attempt)
-        m_auth->changePassword(u"old"_s, u"new"_s,
-                               [&answers](bool ok) { answers << (ok ? u"ok"_s : u"no"_s); });
-    QTRY_COMPARE(answers.size(), 2);
-    answers.sort();
-    QCOMPARE(answers, QStringList({u"no"_s, u"ok"_s}));
     QList<qsizetype> counts;
     for (int attempt = 0; attempt < 3; ++attempt) {
         m_auth->listSessions([&counts](const QList<Session> &list) { counts << list.size(); });
         QTRY_COMPARE(counts.size(), attempt + 1);
     }
     QCOMPARE(counts, QList<qsizetype>({2, 0, 0}));
-    m_auth->revokeSession(u"s1"_s);
-    QTRY_COMPARE(m_service->requestLines().last(), u"DELETE /users/me/sessions/s1"_s);
 }
 
 PURSEWELL_TEST_MAIN(AuthClientTest)

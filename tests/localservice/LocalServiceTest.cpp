@@ -20,14 +20,12 @@ private Q_SLOTS:
     void portIsItsOwn();
     void signsInOnlyForThisMachine_data();
     void signsInOnlyForThisMachine();
-    void sharesInsideTheFamily();
 
 private:
     QByteArray ask(const QByteArray &request); // the whole answer; empty: closed without one
     int statusOf(const QByteArray &request) { return ask(request).mid(9, 3).toInt(); }
     QByteArray request(const QByteArray &line, const QByteArray &body = {},
                        const QByteArray &headers = {});
-    QJsonObject call(const QString &token, const QByteArray &line, const QJsonObject &body = {});
     bool isInOrder() { return statusOf(request("GET /pursewell/v1/sync/pull?limit=1")) == 200; }
 
     LocalService m_service{u":memory:"_s};
@@ -56,15 +54,6 @@ QByteArray LocalServiceTest::ask(const QByteArray &request)
     while (socket.waitForReadyRead(20000))
         answer += socket.readAll();
     return answer + socket.readAll();
-}
-
-QJsonObject LocalServiceTest::call(const QString &token, const QByteArray &line,
-                                   const QJsonObject &body)
-{
-    m_token = token.toLatin1();
-    const QByteArray answer =
-        ask(request(line, QJsonDocument(body).toJson(QJsonDocument::Compact)));
-    return QJsonDocument::fromJson(answer.mid(answer.indexOf("\r\n\r\n") + 4)).object();
 }
 
 void LocalServiceTest::answersMalformedRequests_data()
@@ -199,52 +188,6 @@ void LocalServiceTest::signsInOnlyForThisMachine()
     QCOMPARE(answer.mid(9, 3).toInt(), status);
     QCOMPARE(answer.contains("Location: http://localhost:19876/callback?access_token="),
              status == 302);
-}
-
-void LocalServiceTest::sharesInsideTheFamily()
-{
-    const QString ann = m_service.signIn(u"ann@example.com"_s).access;
-    const QString bob = m_service.signIn(u"bob@example.com"_s).access;
-    const auto change = [](const QString &type, const QString &id, const QString &payee) {
-        return QJsonObject{
-            {"entity_type"_L1, type},
-            {"entity_id"_L1, id},
-            {"action"_L1, u"upsert"_s},
-            {"version"_L1, 1},
-            {"payload"_L1, QJsonObject{{"account_id"_L1, u"joint"_s}, {"payee"_L1, payee}}}};
-    };
-    const auto payees = [this](const QString &token) {
-        QStringList texts;
-        const QJsonObject page = call(token, "GET /pursewell/v1/sync/pull");
-        for (const QJsonValue &record : page.value("transactions"_L1).toArray())
-            texts << record[u"payee"].toString();
-        return texts;
-    };
-    call(ann, "POST /pursewell/v1/sync/push",
-         {{"changes"_L1,
-           QJsonArray{change(u"account"_s, u"joint"_s, {}),
-                      change(u"transaction"_s, u"t"_s, u"of ann"_s)}}});
-    const QJsonObject key{{"user_id"_L1, u"bob@example.com"_s}, {"role"_L1, u"member"_s}};
-    QCOMPARE(call(ann, "POST /pursewell/v1/accounts/joint/share", key)[u"error"],
-             QJsonValue(u"Not a member of your family group"_s));
-
-    const QString code = call(ann, "POST /account/v1/group/invite")[u"invite_code"].toString();
-    call(bob, "POST /account/v1/group/join/" + code.toLatin1());
-    QCOMPARE(payees(bob), QStringList());
-    call(ann, "POST /pursewell/v1/accounts/joint/share", key);
-    QCOMPARE(payees(bob), QStringList{u"of ann"_s});
-    call(bob, "POST /pursewell/v1/sync/push",
-         {{"changes"_L1, QJsonArray{change(u"transaction"_s, u"u"_s, u"of bob"_s)}}});
-    QCOMPARE(payees(ann), (QStringList{u"of ann"_s, u"of bob"_s}));
-
-    const QJsonObject member = call(ann, "GET /pursewell/v1/accounts/joint/members")[u"members"]
-                                   .toArray()
-                                   .first()
-                                   .toObject();
-    QCOMPARE(member[u"email"], QJsonValue(u"bob@example.com"_s));
-    call(ann,
-         "DELETE /pursewell/v1/accounts/joint/share/" + member[u"user_id"].toString().toLatin1());
-    QCOMPARE(payees(bob), QStringList());
 }
 
 PURSEWELL_TEST_MAIN(LocalServiceTest)

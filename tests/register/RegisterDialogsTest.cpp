@@ -164,7 +164,7 @@ void RegisterDialogsTest::detailsLeadToTheSameTransaction()
     openAccount();
     view().sortByColumn(RegisterColumn::Clr, Qt::AscendingOrder);
     QCOMPARE(shown(0, RegisterColumn::Payee), u"Market"_s);
-    goTo(0, RegisterColumn::Payee);
+    edit(0, RegisterColumn::Payee);
     std::unique_ptr<DialogAnswer> formAnswer;
     const DialogAnswer answer(u"transactionDetailsDialog"_s, [&](QDialog *details) {
         details->findChild<QPushButton *>(u"markButton"_s)->click();
@@ -176,6 +176,7 @@ void RegisterDialogsTest::detailsLeadToTheSameTransaction()
     });
     press(Qt::Key_Return, Qt::AltModifier);
     QCOMPARE(stored(u"payee, memo, cleared"_s), u"Zoo||0; Market|edited|1"_s);
+    QCOMPARE(shown(1, RegisterColumn::Clr), u"C"_s);
 }
 
 PURSEWELL_TEST_MAIN(RegisterDialogsTest)

@@ -11,7 +11,6 @@ class RegisterTwoLineTest : public RegisterFixture
 
 private Q_SLOTS:
     void init();
-    void tabWalksThroughTheMemoLine();
     void shiftTabComesBackToTheMemoLine();
     void completionByTabLandsInTheMemo();
     void memoOfAKnownPayeeFillsNewRowsOnly();
@@ -38,21 +37,6 @@ void RegisterTwoLineTest::init()
     addTransaction(u"2024-01-05"_s, u"City Electric"_s, -5000, {.memo = u"winter"_s});
     setPreference(u"registerTwoLine"_s, true);
     openAccount();
-}
-
-void RegisterTwoLineTest::tabWalksThroughTheMemoLine()
-{
-    edit(1, Payee, u"Zoo"_s);
-    press(Qt::Key_Tab);
-    QCOMPARE(focusedName(), u"memoEdit"_s);
-    type(u"two tickets"_s);
-    press(Qt::Key_Tab);
-    QCOMPARE(currentColumn(), Category);
-    press(Qt::Key_Return); // past the hidden memo column
-    QCOMPARE(currentColumn(), Payment);
-    type(u"30"_s);
-    save();
-    QCOMPARE(stored(u"payee, memo, amount"_s, u"payee = 'Zoo'"_s), u"Zoo|two tickets|-3000"_s);
 }
 
 void RegisterTwoLineTest::shiftTabComesBackToTheMemoLine()

@@ -13,6 +13,7 @@ pursewell_test(RegisterDialogsTest LABEL widget USES pursewell_register_fixture)
 pursewell_test(RegisterEntryTest LABEL widget USES pursewell_register_fixture)
 pursewell_test(RegisterKeysTest LABEL widget USES pursewell_register_fixture)
 pursewell_test(RegisterModelTest LABEL widget USES pursewell_register)
+pursewell_test(RegisterSpeechTest LABEL widget USES pursewell_register_fixture)
 pursewell_test(RegisterTwoLineTest LABEL widget USES pursewell_register_fixture)
 pursewell_test(TransactionDetailsDialogTest LABEL widget USES pursewell_register_fixture)
 pursewell_test(TransactionFormDialogTest LABEL widget USES pursewell_register_fixture

@@ -20,7 +20,6 @@ private Q_SLOTS:
     void showsSplitLines();
     void markWritesAtOnceAndLeavesTheVersion();
     void deleteTakesBothSides();
-    void altReturnOpensItAndTheGridFollows();
 
 private:
     static QString value(const QDialog &dialog, const QString &name)
@@ -109,18 +108,6 @@ void TransactionDetailsDialogTest::deleteTakesBothSides()
              "Both sides of the transfer will be deleted."_s);
     QVERIFY(dialog.isDeleted());
     QCOMPARE(stored(u"id"_s), QString());
-}
-
-void TransactionDetailsDialogTest::altReturnOpensItAndTheGridFollows()
-{
-    addTransaction(u"2024-01-05"_s, u"Zoo"_s, -1000);
-    openAccount();
-    edit(0, RegisterColumn::Payee);
-    const DialogAnswer answer(u"transactionDetailsDialog"_s, [](QDialog *dialog) {
-        dialog->findChild<QPushButton *>(u"markButton"_s)->click();
-    });
-    press(Qt::Key_Return, Qt::AltModifier);
-    QCOMPARE(shown(0, RegisterColumn::Clr), u"C"_s);
 }
 
 PURSEWELL_TEST_MAIN(TransactionDetailsDialogTest)

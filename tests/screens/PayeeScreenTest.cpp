@@ -114,9 +114,6 @@ void PayeeScreenTest::changesWhatIsSelected_data()
         << merge << QStringList{awkward, u"Amazon"_s} << QString() << awkward
         << QStringList{u"Merge 2 payees into \"%1\"?"_s.arg(awkward),
                        u"Merged 1 transaction(s)."_s};
-    QTest::newRow("merge into a third name")
-        << merge << QStringList{u"Amazon"_s, u"amazon.de"_s} << u" %2 "_s << u"%2"_s
-        << QStringList{u"Merge 2 payees into \"%2\"?"_s, u"Merged 2 transaction(s)."_s};
     QTest::newRow("merge one") << merge << QStringList{u"Amazon"_s} << u"New"_s << QString()
                                << QStringList{u"Select 2 or more payees to merge."_s};
 }

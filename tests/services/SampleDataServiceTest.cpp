@@ -10,17 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Stands in for a language that has no catalogue yet. Its words tell who asked for them.
-class MadeUpLanguage : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return u"%1 «%2»"_s.arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
-    }
-    bool isEmpty() const override { return false; }
-};
-
 // Of each row in turn: which of the seeded categories it has.
 QString categoriesOfRows()
 {
@@ -60,11 +49,8 @@ void SampleDataServiceTest::rowsFindTheirCategories()
     QFETCH(QString, language);
     const QString inSourceLanguage = categoriesOfRows();
     QTranslator catalogue;
-    MadeUpLanguage madeUp;
-    const bool loaded =
-        catalogue.load(u":/i18n/pursewell_%1.qm"_s.arg(language), u""_s, u""_s, u""_s);
-    QVERIFY(loaded || language != u"en"_s); // else the catalogues are not where they are looked for
-    QCoreApplication::installTranslator(loaded ? &catalogue : &madeUp);
+    QVERIFY(catalogue.load(u":/i18n/pursewell_%1.qm"_s.arg(language), u""_s, u""_s, u""_s));
+    QCoreApplication::installTranslator(&catalogue);
     QCOMPARE(categoriesOfRows(), inSourceLanguage);
 }
 
@@ -77,14 +63,6 @@ void SampleDataServiceTest::householdLooksRecent()
     const auto text = [&](const QString &statement) {
         return database.value(statement).toString();
     };
-    QCOMPARE(text(u"SELECT group_concat(row, '; ') FROM (SELECT substr(account_id, 13) || ' ' || "
-                  "COUNT(*) || ' ' || SUM(amount) || ' ' || COUNT(transfer_link_id) || ' ' || "
-                  "SUM(cleared) || ' ' || SUM(reconciled) || ' ' || COUNT(category_id) "
-                  "|| ' ' || MIN(date) || ' ' || MAX(date) AS row "
-                  "FROM transactions GROUP BY account_id)"_s),
-             u"checking 33 875960 2 26 16 31 2024-01-01 2024-03-01; "
-             "savings 4 101695 2 3 0 2 2024-01-16 2024-03-01; "
-             "visa 12 -3839 0 7 0 10 2024-01-06 2024-02-28"_s);
     QCOMPARE(text(u"SELECT group_concat(row, '; ') FROM (SELECT memo || ' ' || amount || ' ' || "
                   "frequency || ' ' || start_date || ' ' || next_due_date AS row "
                   "FROM recurring_transactions ORDER BY memo)"_s),

@@ -123,7 +123,6 @@ void AppStateSyncTest::startRestoresTheSession_data()
     QTest::newRow("refused") << 600 << FakeReply{.status = 401} << false;
     QTest::newRow("token ran out") << 0 << good << true;
     QTest::newRow("token ran out, offline") << 0 << FakeReply{.drops = true} << true;
-    QTest::newRow("token ran out, refused") << 0 << FakeReply{.status = 400} << false;
 }
 
 void AppStateSyncTest::startRestoresTheSession()

@@ -1,8 +1,6 @@
 #include "core/program/Application.h"
 
-#include "data/DataDirectory.h"
 #include "support/DialogAnswer.h"
-#include "support/FakeHttpService.h"
 #include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
@@ -15,6 +13,12 @@ const QString kUnusable = u"/proc/pursewell"_s;
 QString translatedCount()
 {
     return QCoreApplication::translate("StatusBar", "%n account(s)", nullptr, 1);
+}
+
+// From Qt's own catalogue.
+QString translatedButton()
+{
+    return QCoreApplication::translate("QPlatformTheme", "Cancel");
 }
 
 }
@@ -32,7 +36,6 @@ private Q_SLOTS:
     void languageIsChosen();
     void identityAndResourcesStand();
     void unusableDirectoryIsReported();
-    void windowOpensAsksForNewsAndEndsTheRun();
 
 private:
     // A process that writes a line of each kind to the log, and its language to its output.
@@ -86,9 +89,11 @@ void ApplicationTest::languageIsChosen_data()
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QByteArray>("chosen");
-    QTest::newRow("system") << u"system"_s << u"de_AT.UTF-8"_s << QByteArray("de 1 account(s)");
-    QTest::newRow("not supported") << u"system"_s << u"pt_BR.UTF-8"_s << QByteArray("en 1 account");
-    QTest::newRow("a code") << u"fr"_s << u"en_US.UTF-8"_s << QByteArray("fr 1 account(s)");
+    QTest::newRow("system") << u"system"_s << u"de_AT.UTF-8"_s
+                            << QByteArray("de 1 Konto Abbrechen");
+    QTest::newRow("not supported")
+        << u"system"_s << u"pt_BR.UTF-8"_s << QByteArray("en 1 account Cancel");
+    QTest::newRow("a code") << u"fr"_s << u"en_US.UTF-8"_s << QByteArray("fr 1 compte Annuler");
 }
 
 void ApplicationTest::languageIsChosen()
@@ -122,26 +127,6 @@ void ApplicationTest::unusableDirectoryIsReported()
     QVERIFY2(text.contains(u"\n\nData directory: %1\n\n"_s.arg(kUnusable)), qPrintable(text));
 }
 
-void ApplicationTest::windowOpensAsksForNewsAndEndsTheRun()
-{
-    const QTemporaryDir directory;
-    qputenv("PURSEWELL_DATA_DIR", directory.path().toUtf8());
-    FakeHttpService service;
-    qputenv("UPDATE_BASE_URL", service.url(u"/pursewell/stable/"_s).toEncoded());
-    const QDeadlineTimer deadline(20000);
-    QTimer looking;
-    connect(&looking, &QTimer::timeout, this, [&service, &deadline] {
-        if (service.requestLines().contains(u"GET /pursewell/stable/latest.json"_s)
-            || deadline.hasExpired())
-            QApplication::closeAllWindows();
-    });
-    looking.start(20);
-    QCOMPARE(qobject_cast<Application *>(qApp)->run(), 0);
-    QVERIFY(QFile::exists(databasePath()));
-    QVERIFY(service.requestLines().contains(u"GET /pursewell/1.0.10/release-notes.md"_s));
-    QVERIFY(!deadline.hasExpired());
-}
-
 int main(int argc, char *argv[])
 {
     if (argc > 1 && argv[1] == kChildArgument.toLatin1()) {
@@ -150,7 +135,8 @@ int main(int argc, char *argv[])
         qInfo("told");
         qWarning("careful %%s");
         qCritical("broken");
-        QTextStream(stdout) << Application::currentLanguage(true) << ' ' << translatedCount();
+        QTextStream(stdout) << Application::currentLanguage(true) << ' ' << translatedCount() << ' '
+                            << translatedButton();
         return 0;
     }
     const TestEnvironment environment;

@@ -49,7 +49,6 @@ private Q_SLOTS:
     void rowsFollowSplitterAndFontScale();
     void quitKeepsThePlaceOfTheWindow();
     void themeReachesTheWindow();
-    void accessKeysAreUnique();
     void boxesTellKeysAndVersion();
     void feedbackOpensThePage();
     void helpEntriesAnswerInTheStatusBar_data();
@@ -248,22 +247,6 @@ void MainWindowTest::themeReachesTheWindow()
         const QString dark = colorOf(label);
         shell.state()->themeManager()->setTheme(ThemeManager::Light);
         QVERIFY2(colorOf(label) != dark, qPrintable(label->objectName()));
-    }
-}
-
-void MainWindowTest::accessKeysAreUnique()
-{
-    ShellFixture shell;
-    for (const QMenu *menu : shell.openWindow()->menuBar()->findChildren<QMenu *>()) {
-        QSet<QString> accessKeys;
-        for (const QAction *action : menu->actions()) {
-            // The two entries on accounts share their key: pressed again, it goes on to the other.
-            if (action->isSeparator() || action->objectName() == u"accountAction"_s)
-                continue;
-            const QString key = QKeySequence::mnemonic(action->text()).toString();
-            QVERIFY2(!key.isEmpty() && !accessKeys.contains(key), qPrintable(action->text()));
-            accessKeys << key;
-        }
     }
 }
 

@@ -88,7 +88,6 @@ private Q_SLOTS:
     void movesTheCursor_data();
     void movesTheCursor();
     void stopsAtThePageLimit();
-    void sendsADeletionBackOnce();
     void tellsOfACategoryMismatch_data();
     void tellsOfACategoryMismatch();
 
@@ -359,28 +358,6 @@ void SyncEngineTest::stopsAtThePageLimit()
     addPending(u"p"_s);
     QVERIFY(m_rig->runPass());
     QCOMPARE(takeRequests().size(), 1 + kMaxPullPages);
-}
-
-void SyncEngineTest::sendsADeletionBackOnce()
-{
-    addPending(u"p"_s);
-    m_database->accounts.markSynced(u"p"_s, u"key"_s);
-    m_service->answer(
-        kPull,
-        {page({{"accounts"_L1,
-                QJsonArray{QJsonObject{{"client_id"_L1, u"p"_s},
-                                       {"id"_L1, u"key"_s},
-                                       {"name"_L1, u"gone"_s},
-                                       {"version"_L1, 9},
-                                       {"updated_at"_L1, u"2024-03-01T00:00:00Z"_s},
-                                       {"deleted_at"_L1, u"2024-03-01T00:00:00Z"_s}}}}}),
-         page({})});
-    m_service->answer(kPush, {results({result(u"ok"_s, u"account"_s, u"p"_s)})});
-    for (int pass = 0; pass < 3; ++pass)
-        QVERIFY(m_rig->runPass());
-    const QJsonObject body = QJsonDocument::fromJson(m_service->requests().at(1).body).object();
-    QCOMPARE(takeRequests(), (QStringList{kPull, kPush, kPull, kPull}));
-    QCOMPARE(body[u"changes"].toArray().first()[u"action"], QJsonValue(u"delete"_s));
 }
 
 void SyncEngineTest::tellsOfACategoryMismatch_data()

@@ -22,9 +22,9 @@ constexpr std::size_t kMaxBody = 64UL * 1024 * 1024;
 constexpr int kDefaultPage = 200;
 constexpr int kLargestPage = 1000;
 
-const std::string kAuth = "/api/v1/realms/[^/]+";
-const std::string kAccount = "/account/v1";
-const std::string kSync = "/pursewell/v1";
+constexpr const char *kAuth = "/api/v1/realms/[^/]+";
+constexpr const char *kAccount = "/account/v1";
+constexpr const char *kSync = "/pursewell/v1";
 
 QString text(const QJsonObject &object, QLatin1StringView key)
 {
@@ -192,42 +192,47 @@ void LocalService::addControl()
 
 void LocalService::addAuthRoutes()
 {
-    route("POST", kAuth + "/auth/token/refresh", false, [this](const Call &call) -> Reply {
-        const Users::Tokens tokens = m_users.refresh(text(call.body, "refresh_token"_L1));
-        if (tokens.access.isEmpty())
-            return {.status = 401};
-        return {.body = {{"access_token"_L1, tokens.access}, {"refresh_token"_L1, tokens.refresh}}};
-    });
-    route("POST", kAuth + "/auth/logout", true, [this](const Call &call) -> Reply {
+    route("POST", std::string(kAuth) + "/auth/token/refresh", false,
+          [this](const Call &call) -> Reply {
+              const Users::Tokens tokens = m_users.refresh(text(call.body, "refresh_token"_L1));
+              if (tokens.access.isEmpty())
+                  return {.status = 401};
+              return {.body = {{"access_token"_L1, tokens.access},
+                               {"refresh_token"_L1, tokens.refresh}}};
+          });
+    route("POST", std::string(kAuth) + "/auth/logout", true, [this](const Call &call) -> Reply {
         m_users.endSession(call.userId, call.sessionId);
         return {.status = 204};
     });
-    route("GET", kAuth + "/users/me", true,
+    route("GET", std::string(kAuth) + "/users/me", true,
           [this](const Call &call) -> Reply { return {.body = m_users.user(call.userId)}; });
-    route("PATCH", kAuth + "/users/me", true, [this](const Call &call) -> Reply {
+    route("PATCH", std::string(kAuth) + "/users/me", true, [this](const Call &call) -> Reply {
         m_users.rename(call.userId, text(call.body, "display_name"_L1));
         return {.body = m_users.user(call.userId)};
     });
-    route("POST", kAuth + "/users/me/password", true, [this](const Call &call) -> Reply {
-        const bool isChanged =
-            m_users.changePassword(call.userId, text(call.body, "current_password"_L1),
-                                   text(call.body, "new_password"_L1));
-        return {.status = isChanged ? 204 : 400};
-    });
-    route("GET", kAuth + "/users/me/sessions", true, [this](const Call &call) -> Reply {
-        return {.body = {{"sessions"_L1, m_users.sessions(call.userId, call.sessionId)}}};
-    });
-    route("DELETE", kAuth + "/users/me/sessions/([^/]+)", true, [this](const Call &call) -> Reply {
-        m_users.endSession(call.userId, call.captures.at(0));
-        return {.status = 204};
-    });
+    route("POST", std::string(kAuth) + "/users/me/password", true,
+          [this](const Call &call) -> Reply {
+              const bool isChanged =
+                  m_users.changePassword(call.userId, text(call.body, "current_password"_L1),
+                                         text(call.body, "new_password"_L1));
+              return {.status = isChanged ? 204 : 400};
+          });
+    route("GET", std::string(kAuth) + "/users/me/sessions", true,
+          [this](const Call &call) -> Reply {
+              return {.body = {{"sessions"_L1, m_users.sessions(call.userId, call.sessionId)}}};
+          });
+    route("DELETE", std::string(kAuth) + "/users/me/sessions/([^/]+)", true,
+          [this](const Call &call) -> Reply {
+              m_users.endSession(call.userId, call.captures.at(0));
+              return {.status = 204};
+          });
 }
 
 void LocalService::addProfileRoutes()
 {
-    route("GET", kAccount + "/profile", true,
+    route("GET", std::string(kAccount) + "/profile", true,
           [this](const Call &call) -> Reply { return {.body = m_users.profile(call.userId)}; });
-    route("DELETE", kAccount + "/profile", true, [this](const Call &call) -> Reply {
+    route("DELETE", std::string(kAccount) + "/profile", true, [this](const Call &call) -> Reply {
         m_users.remove(call.userId);
         return {.status = 204};
     });
@@ -235,24 +240,26 @@ void LocalService::addProfileRoutes()
 
 void LocalService::addGroupRoutes()
 {
-    route("GET", kAccount + "/group", true, [this](const Call &call) -> Reply {
+    route("GET", std::string(kAccount) + "/group", true, [this](const Call &call) -> Reply {
         const QJsonObject group = m_users.group(call.userId);
         return {.status = group.isEmpty() ? 404 : 200, .body = group};
     });
-    route("POST", kAccount + "/group/invite", true, [this](const Call &call) -> Reply {
+    route("POST", std::string(kAccount) + "/group/invite", true, [this](const Call &call) -> Reply {
         const QJsonObject invitation = m_users.invite(call.userId, text(call.body, "email"_L1));
         return {.status = invitation.isEmpty() ? 403 : 201, .body = invitation};
     });
-    route("POST", kAccount + "/group/join/([^/]+)", true, [this](const Call &call) -> Reply {
-        return {.status = m_users.join(call.userId, call.captures.at(0)) ? 204 : 404};
-    });
-    route("POST", kAccount + "/group/leave", true, [this](const Call &call) -> Reply {
+    route("POST", std::string(kAccount) + "/group/join/([^/]+)", true,
+          [this](const Call &call) -> Reply {
+              return {.status = m_users.join(call.userId, call.captures.at(0)) ? 204 : 404};
+          });
+    route("POST", std::string(kAccount) + "/group/leave", true, [this](const Call &call) -> Reply {
         return {.status = m_users.leave(call.userId) ? 204 : 404};
     });
-    route("DELETE", kAccount + "/group/members/([^/]+)", true, [this](const Call &call) -> Reply {
-        return {.status = m_users.removeMember(call.userId, call.captures.at(0)) ? 204 : 403};
-    });
-    route("DELETE", kAccount + "/group/invitations/([^/]+)", true,
+    route("DELETE", std::string(kAccount) + "/group/members/([^/]+)", true,
+          [this](const Call &call) -> Reply {
+              return {.status = m_users.removeMember(call.userId, call.captures.at(0)) ? 204 : 403};
+          });
+    route("DELETE", std::string(kAccount) + "/group/invitations/([^/]+)", true,
           [this](const Call &call) -> Reply {
               return {.status =
                           m_users.revokeInvitation(call.userId, call.captures.at(0)) ? 204 : 403};
@@ -261,29 +268,31 @@ void LocalService::addGroupRoutes()
 
 void LocalService::addDeviceRoutes()
 {
-    route("GET", kAccount + "/devices", true, [this](const Call &call) -> Reply {
+    route("GET", std::string(kAccount) + "/devices", true, [this](const Call &call) -> Reply {
         return {.body = {{"devices"_L1, m_users.devices(call.userId)}}};
     });
-    route("POST", kAccount + "/devices/register", true, [this](const Call &call) -> Reply {
-        m_users.registerDevice(call.userId, call.body);
-        return {.status = 201};
-    });
-    route("DELETE", kAccount + "/devices/([^/]+)", true, [this](const Call &call) -> Reply {
-        m_users.removeDevice(call.userId, call.captures.at(0));
-        return {.status = 204};
-    });
+    route("POST", std::string(kAccount) + "/devices/register", true,
+          [this](const Call &call) -> Reply {
+              m_users.registerDevice(call.userId, call.body);
+              return {.status = 201};
+          });
+    route("DELETE", std::string(kAccount) + "/devices/([^/]+)", true,
+          [this](const Call &call) -> Reply {
+              m_users.removeDevice(call.userId, call.captures.at(0));
+              return {.status = 204};
+          });
 }
 
 void LocalService::addSyncRoutes()
 {
-    route("POST", kSync + "/sync/push", true, [this](const Call &call) -> Reply {
+    route("POST", std::string(kSync) + "/sync/push", true, [this](const Call &call) -> Reply {
         const QJsonValue changes = call.body.value("changes"_L1);
         if (!changes.isArray())
             return {.status = 400, .body = {{"error"_L1, u"No changes"_s}}};
         m_users.noteSync(call.userId);
         return {.body = {{"results"_L1, m_records.push(call.userId, changes.toArray())}}};
     });
-    route("GET", kSync + "/sync/pull", true, [this](const Call &call) -> Reply {
+    route("GET", std::string(kSync) + "/sync/pull", true, [this](const Call &call) -> Reply {
         const auto item = [&call](const char *key) {
             return QString::fromStdString(call.request->get_param_value(key));
         };
@@ -295,21 +304,26 @@ void LocalService::addSyncRoutes()
 
 void LocalService::addSharingRoutes()
 {
-    route("GET", kSync + "/accounts/([^/]+)/members", true, [this](const Call &call) -> Reply {
-        if (!m_records.mayRead(call.userId, call.captures.at(0)))
-            return {.status = 404};
-        return {.body = {{"members"_L1, m_records.sharedWith(call.captures.at(0))}}};
-    });
-    route("POST", kSync + "/accounts/([^/]+)/share", true, [this](const Call &call) -> Reply {
-        const QString memberId = m_users.fellowMember(call.userId, text(call.body, "user_id"_L1));
-        if (!m_records.owns(call.userId, call.captures.at(0)))
-            return {.status = 404, .body = {{"error"_L1, u"No such account"_s}}};
-        if (memberId.isEmpty())
-            return {.status = 404, .body = {{"error"_L1, u"Not a member of your family group"_s}}};
-        m_records.share(call.userId, call.captures.at(0), memberId, text(call.body, "role"_L1));
-        return {.status = 201};
-    });
-    route("DELETE", kSync + "/accounts/([^/]+)/share/([^/]+)", true,
+    route("GET", std::string(kSync) + "/accounts/([^/]+)/members", true,
+          [this](const Call &call) -> Reply {
+              if (!m_records.mayRead(call.userId, call.captures.at(0)))
+                  return {.status = 404};
+              return {.body = {{"members"_L1, m_records.sharedWith(call.captures.at(0))}}};
+          });
+    route("POST", std::string(kSync) + "/accounts/([^/]+)/share", true,
+          [this](const Call &call) -> Reply {
+              const QString memberId =
+                  m_users.fellowMember(call.userId, text(call.body, "user_id"_L1));
+              if (!m_records.owns(call.userId, call.captures.at(0)))
+                  return {.status = 404, .body = {{"error"_L1, u"No such account"_s}}};
+              if (memberId.isEmpty())
+                  return {.status = 404,
+                          .body = {{"error"_L1, u"Not a member of your family group"_s}}};
+              m_records.share(call.userId, call.captures.at(0), memberId,
+                              text(call.body, "role"_L1));
+              return {.status = 201};
+          });
+    route("DELETE", std::string(kSync) + "/accounts/([^/]+)/share/([^/]+)", true,
           [this](const Call &call) -> Reply {
               return {.status =
                           m_records.unshare(call.userId, call.captures.at(0), call.captures.at(1))

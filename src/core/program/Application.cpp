@@ -48,6 +48,7 @@ Application::Application(int &argc, char **argv)
     setOrganizationName(kOrganizationName);
     setOrganizationDomain(kOrganizationDomain);
     setApplicationName(kApplicationName);
+    setDesktopFileName(kDesktopFileName);
     setApplicationVersion(kApplicationVersion);
     installLanguage(); // before any widget has taken its texts
     setStyle(new IndicatorStyle); // the application owns it
@@ -77,7 +78,7 @@ void Application::installLanguage()
         auto *translator = new QTranslator(this);
         const QString directory = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
         m_qtTranslator = installed(
-            translator, translator->load(QLocale(language), u"qtbase"_s, u"_"_s, directory, u""_s));
+            translator, translator->load(QLocale(language), u"qtbase"_s, u"_"_s, directory));
     }
     // English too: its file holds the singular and plural forms. Empty delimiters keep Qt from
     // trying ever shorter names.

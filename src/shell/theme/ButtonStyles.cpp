@@ -10,6 +10,12 @@ QString primaryButtonStyle()
            "QPushButton:pressed {  background-color: #004D40;}"_s.arg(u"#00897B"_s);
 }
 
+// The padding keeps the size.
+QString primaryButtonFocusStyle()
+{
+    return u"QPushButton:focus {  border: 2px solid palette(window-text);  padding: 4px 14px;}"_s;
+}
+
 QString linkButtonStyle()
 {
     return u"QPushButton { color: %1; border: none; background: transparent; }"_s.arg(u"#4DB6AC"_s);
