@@ -137,6 +137,18 @@ launch() {
 start_program() {
   launch
   wait_for_window "$main_title"
+  wait_for_first_painting
+}
+
+# Before that, keys are lost.
+wait_for_first_painting() {
+  wait_until 30 "the first painting" sidebar_is_painted
+}
+
+# Left of the names of the accounts, in either theme.
+sidebar_is_painted() {
+  import -silent -window "$(xdotool getactivewindow)" -crop 1x1+2+600 txt:- 2>/dev/null \
+    | grep -q 'srgb(21,36,32)'
 }
 
 program_has_ended() {
@@ -179,6 +191,27 @@ stop_local_service() {
   kill "$service_pid"
   wait "$service_pid" || fail "the service did not end well"
   service_pid=
+}
+
+# requests_for <path as an expression>: how many the service was asked so far.
+requests_for() {
+  curl --silent --show-error --fail --max-time 20 "$service_address/control/requests" \
+    | grep -cE -- "$1" || true
+}
+
+asked_since() {
+  [ "$(requests_for "$1")" -ge "$2" ]
+}
+
+# once_asked <number> <path> <command>...: runs the command until the service was asked so often and
+# the answers have been painted.
+once_asked() {
+  local number=$1 path=$2 before
+  shift 2
+  before=$(requests_for "$path")
+  "$@"
+  wait_until 20 "$number request(s) for $path" asked_since "$path" "$((before + number))"
+  settle
 }
 
 # --- windows, keys and the mouse -----------------------------------------------------------------

@@ -2,6 +2,11 @@
 # Releases from the local service: What's New at the first start of a version and the update dialog
 # after it, each once; both again whenever the Help menu is asked; the notes in the user's language.
 
+running_version=$(sed -n 's/.*kApplicationVersion{"\(.*\)"}.*/\1/p' \
+  "$repository_root/src/core/Deployment.h")
+newer_version=99.0.0
+whats_new_title="What's New in $main_title $running_version"
+
 chapter_updates() {
   new_household updates
   mkdir "$XDG_CONFIG_HOME/Kestrelwood"
@@ -22,8 +27,8 @@ chapter_updates() {
 
 publish_releases() {
   local releases=$stage/downloads/pursewell
-  mkdir -p "$releases"/{stable,1.0.10,1.0.11}
-  cat >"$releases/1.0.10/release-notes.md" <<'MD'
+  mkdir -p "$releases"/{stable,"$running_version","$newer_version"}
+  cat >"$releases/$running_version/release-notes.md" <<'MD'
 ## Everything in one file
 
 - **Backups** hold the whole household. [Read more](https://www.kestrelwood.example/backup)
@@ -36,16 +41,16 @@ publish_releases() {
 ![a picture](file:///etc/hostname) <script>alert("no")</script>
 MD
   printf '## Alles in einer Datei\n\n- **Sicherungen** enthalten den ganzen Haushalt.\n' \
-    >"$releases/1.0.10/release-notes.de.md"
+    >"$releases/$running_version/release-notes.de.md"
   printf '## Faster imports\n\n1. Large files are read in the background.\n%s\n' \
     '2. See [the page](https://www.kestrelwood.example/new) for more.' \
-    >"$releases/1.0.11/release-notes.md"
+    >"$releases/$newer_version/release-notes.md"
   cat >"$releases/stable/latest.json" <<JSON
 {"schema": 1, "app": "pursewell", "channel": "stable", "artifacts": {"linux-x64": {
-  "version": "1.0.11", "released_at": "2026-11-02T09:00:00Z", "size": 41943040,
-  "url": "http://127.0.0.1:9/pursewell-1.0.11.tar.xz",
-  "sha256": "$(printf 'pursewell-1.0.11' | sha256sum | cut -d ' ' -f 1)",
-  "release_notes_url": "$service_address/downloads/pursewell/1.0.11/release-notes.md"}}}
+  "version": "$newer_version", "released_at": "2026-11-02T09:00:00Z", "size": 41943040,
+  "url": "http://127.0.0.1:9/pursewell-$newer_version.tar.xz",
+  "sha256": "$(printf 'pursewell-%s' "$newer_version" | sha256sum | cut -d ' ' -f 1)",
+  "release_notes_url": "$service_address/downloads/pursewell/$newer_version/release-notes.md"}}}
 JSON
 }
 
@@ -53,8 +58,6 @@ JSON
 speak() {
   { export LC_ALL=$1.UTF-8; } 2>/dev/null
 }
-
-whats_new_title="What's New in $main_title 1.0.10"
 
 notices_after_start() {
   speak en_US
@@ -69,8 +72,8 @@ notices_after_start() {
   wait_for_window "$whats_new_title"
   press Escape
   wait_for_window "$main_title"
-  setting_is "lastShownVersion=1.0.10" || fail "the settings do not tell that the notes were shown"
-  wait_for_answer 1.0.11 "SELECT value FROM preferences WHERE key = 'update_dismissed_version'"
+  setting_is "lastShownVersion=$running_version" || fail "the settings do not tell that the notes were shown"
+  wait_for_answer "$newer_version" "SELECT value FROM preferences WHERE key = 'update_dismissed_version'"
   quit_program
 }
 
@@ -112,15 +115,15 @@ checks_made() {
 }
 
 expect_downloads() {
-  if ! diff -u --label "expected" --label "asked for" - <(downloads) <<'LINES'; then
-1.0.10/release-notes.md
+  if ! diff -u --label "expected" --label "asked for" - <(downloads) <<LINES; then
+$running_version/release-notes.md
 stable/latest.json
-1.0.11/release-notes.md
+$newer_version/release-notes.md
 stable/latest.json
 stable/latest.json
-1.0.11/release-notes.de.md
-1.0.11/release-notes.md
-1.0.10/release-notes.de.md
+$newer_version/release-notes.de.md
+$newer_version/release-notes.md
+$running_version/release-notes.de.md
 stable/latest.json
 LINES
     fail "the program asked for something else"

@@ -98,11 +98,14 @@ bob_joins() {
   close_window "$main_title"
 }
 
-ann_shares() {
-  on ann
+open_share_dialog() {
   press alt+a s
   wait_for_window "Share Account"
-  settle
+}
+
+ann_shares() {
+  on ann
+  once_asked 2 '/(group|members)$' open_share_dialog
   press shift+Tab space
   wait_for_service "bob@example.com | member" \
     "SELECT u.email, s.role FROM shares s JOIN users u ON u.id = s.user_id"
@@ -131,9 +134,7 @@ ROWS
 ann_takes_it_back() {
   local cursor
   press alt+1
-  press alt+a s
-  wait_for_window "Share Account"
-  settle
+  once_asked 2 '/(group|members)$' open_share_dialog
   press shift+Tab space
   wait_for_window "Remove Share"
   picture share-remove-question
@@ -200,8 +201,7 @@ ann_looks_at_it() {
   done
   close_window "$main_title"
   press alt+1
-  press alt+a s
-  wait_for_window "Share Account"
+  once_asked 2 '/(group|members)$' open_share_dialog
   picture "share-$1-$2"
   close_window "$main_title"
 }

@@ -15,6 +15,23 @@ namespace {
 
 constexpr int kMessageMs = 5000;
 
+// Calls the one or the other, and the fetcher is gone afterwards.
+void fetch(ReleaseNotesFetcher *fetcher, const std::function<void(const QString &)> &onReady,
+           const std::function<void()> &onUnavailable)
+{
+    QObject::connect(fetcher, &ReleaseNotesFetcher::notesReady, fetcher,
+                     [fetcher, onReady](const QString &markdown) {
+                         onReady(markdown);
+                         fetcher->deleteLater();
+                     });
+    QObject::connect(fetcher, &ReleaseNotesFetcher::notesUnavailable, fetcher,
+                     [fetcher, onUnavailable] {
+                         onUnavailable();
+                         fetcher->deleteLater();
+                     });
+    fetcher->fetch();
+}
+
 // What is the same in all that a flow does.
 class Flow
 {
@@ -109,19 +126,13 @@ void Flow::present(const QString &markdown, const QString &version, const QUrl &
 void Flow::showNotes() const
 {
     begin(tr("Loading release notes…"));
-    auto *fetcher = new ReleaseNotesFetcher(m_config, qApp);
-    QObject::connect(fetcher, &ReleaseNotesFetcher::notesReady, fetcher,
-                     [flow = *this, fetcher](const QString &markdown) {
-                         flow.end();
-                         flow.present(markdown, flow.m_config.currentVersion, {});
-                         fetcher->deleteLater();
-                     });
-    QObject::connect(fetcher, &ReleaseNotesFetcher::notesUnavailable, fetcher,
-                     [flow = *this, fetcher] {
-                         flow.askManifestForNotes();
-                         fetcher->deleteLater();
-                     });
-    fetcher->fetch();
+    fetch(
+        new ReleaseNotesFetcher(m_config, qApp),
+        [flow = *this](const QString &markdown) {
+            flow.end();
+            flow.present(markdown, flow.m_config.currentVersion, {});
+        },
+        [flow = *this] { flow.askManifestForNotes(); });
 }
 
 // The running version may be too new or too old to have notes of its own.
@@ -147,32 +158,23 @@ void Flow::askManifestForNotes() const
 
 void Flow::fetchNotesOf(const Artifact &artifact) const
 {
-    auto *fetcher = new ReleaseNotesFetcher(artifact.releaseNotesUrl, m_config.productId, qApp);
-    QObject::connect(fetcher, &ReleaseNotesFetcher::notesReady, fetcher,
-                     [flow = *this, fetcher, artifact](const QString &markdown) {
-                         flow.end();
-                         flow.present(markdown, artifact.version, artifact.url);
-                         fetcher->deleteLater();
-                     });
-    QObject::connect(fetcher, &ReleaseNotesFetcher::notesUnavailable, fetcher,
-                     [flow = *this, fetcher] {
-                         flow.endWithoutNotes();
-                         fetcher->deleteLater();
-                     });
-    fetcher->fetch();
+    fetch(
+        new ReleaseNotesFetcher(artifact.releaseNotesUrl, m_config.productId, qApp),
+        [flow = *this, artifact](const QString &markdown) {
+            flow.end();
+            flow.present(markdown, artifact.version, artifact.url);
+        },
+        [flow = *this] { flow.endWithoutNotes(); });
 }
 
 void Flow::showNotesSilently() const
 {
-    auto *fetcher = new ReleaseNotesFetcher(m_config, qApp);
-    QObject::connect(fetcher, &ReleaseNotesFetcher::notesReady, fetcher,
-                     [flow = *this, fetcher](const QString &markdown) {
-                         flow.present(markdown, flow.m_config.currentVersion, {});
-                         fetcher->deleteLater();
-                     });
-    QObject::connect(fetcher, &ReleaseNotesFetcher::notesUnavailable, fetcher,
-                     &QObject::deleteLater);
-    fetcher->fetch();
+    fetch(
+        new ReleaseNotesFetcher(m_config, qApp),
+        [flow = *this](const QString &markdown) {
+            flow.present(markdown, flow.m_config.currentVersion, {});
+        },
+        [] {});
 }
 
 } // namespace

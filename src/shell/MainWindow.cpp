@@ -12,6 +12,7 @@
 #include "shell/ListResizeWatcher.h"
 #include "shell/StatusBar.h"
 #include "shell/WelcomeScreen.h"
+#include "shell/theme/ButtonStyles.h"
 #include "shell/theme/FontRoles.h"
 #include "shell/theme/ThemeManager.h"
 
@@ -199,6 +200,7 @@ void MainWindow::applyTheme()
 {
     m_statusBar->applyThemeColors();
     m_welcomeScreen->applyThemeColors();
+    restyleButtons(m_splitter);
     m_accountList->setStyleSheet(accountListStyle());
 }
 

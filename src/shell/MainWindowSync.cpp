@@ -67,6 +67,9 @@ void MainWindow::updateAuthUI()
                                              : tr("Sign in or sign up"));
     if (!isSignedIn) {
         m_statusBar->setSyncStatus(tr("Not signed in"));
+        // What it shows is no longer anybody's business, and its buttons could do nothing.
+        if (auto *screen = findChild<KestAccount::AccountScreen *>())
+            screen->close();
         showWelcomeScreen();
         return;
     }

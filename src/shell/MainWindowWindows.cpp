@@ -31,6 +31,12 @@ template <typename Screen> QPointer<Screen> &screenOf()
     return screen;
 }
 
+template <typename Screen> void reloadIfOpen(void (Screen::*reload)())
+{
+    if (const QPointer<Screen> &screen = screenOf<Screen>(); screen && screen->isVisible())
+        (screen->*reload)();
+}
+
 // The sizes are meant for a text of the usual height; a larger one needs more room in both ways.
 QSize sizeForFont(QSize size, QSize screen)
 {
@@ -162,20 +168,13 @@ void MainWindow::reloadEverything()
 
 void MainWindow::reloadOpenWindows()
 {
-    if (const auto &screen = screenOf<CategoriesScreen>(); screen && screen->isVisible())
-        screen->reloadTree();
-    if (const auto &screen = screenOf<RecurringScreen>(); screen && screen->isVisible())
-        screen->refresh();
-    if (const auto &screen = screenOf<PayeeScreen>(); screen && screen->isVisible())
-        screen->refresh();
-    if (const auto &screen = screenOf<ReportsScreen>(); screen && screen->isVisible())
-        screen->refresh();
-    if (const auto &screen = screenOf<SearchScreen>(); screen && screen->isVisible())
-        screen->reloadFilters();
-    if (const auto &screen = screenOf<ReconciliationHistoryScreen>(); screen && screen->isVisible())
-        screen->refresh();
-    if (const auto &screen = screenOf<ImportScreen>(); screen && screen->isVisible())
-        screen->reloadAccounts();
+    reloadIfOpen(&CategoriesScreen::reloadTree);
+    reloadIfOpen(&RecurringScreen::refresh);
+    reloadIfOpen(&PayeeScreen::refresh);
+    reloadIfOpen(&ReportsScreen::refresh);
+    reloadIfOpen(&SearchScreen::reloadFilters);
+    reloadIfOpen(&ReconciliationHistoryScreen::refresh);
+    reloadIfOpen(&ImportScreen::reloadAccounts);
     reloadReconciliations();
 }
 

@@ -103,13 +103,7 @@ start_device() {
   launch
   running[$device]=$program_pid
   come_to_front
-  wait_until 30 "the first painting of device $device" sidebar_is_painted
-}
-
-# Before that, keys are lost.
-sidebar_is_painted() {
-  import -silent -window "$(xdotool getactivewindow)" -crop 1x1+100+600 txt:- \
-    | grep -q 'srgb(21,36,32)'
+  wait_for_first_painting
 }
 
 quit_device() {

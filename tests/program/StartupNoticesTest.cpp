@@ -1,5 +1,6 @@
 #include "core/program/StartupNotices.h"
 
+#include "core/Deployment.h"
 #include "data/PreferencesRepository.h"
 #include "kestupdate/Client.h"
 #include "kestupdate/ReleaseManifest.h"
@@ -55,14 +56,14 @@ void StartupNoticesTest::notesAreOfferedOnce_data()
     QTest::addColumn<QString>("preference"); // where earlier releases kept the marker
     QTest::addColumn<bool>("offered");
     QTest::addColumn<QString>("markerAfter");
-    const QString current = u"1.0.10"_s;
+    const QString current(kApplicationVersion);
     QTest::newRow("first start") << QString() << QString() << true << current;
-    QTest::newRow("upgrade") << u"1.0.9"_s << current << true << current;
+    QTest::newRow("upgrade") << u"0.9.9"_s << current << true << current;
     QTest::newRow("same version") << current << QString() << false << current;
-    QTest::newRow("downgrade") << u"1.0.11"_s << QString() << false << u"1.0.11"_s;
+    QTest::newRow("downgrade") << u"99.0.0"_s << QString() << false << u"99.0.0"_s;
     QTest::newRow("unreadable") << u"latest"_s << QString() << true << current;
     QTest::newRow("taken over") << QString() << current << false << current;
-    QTest::newRow("upgrade, taken over") << QString() << u"1.0.9"_s << true << current;
+    QTest::newRow("upgrade, taken over") << QString() << u"0.9.9"_s << true << current;
 }
 
 void StartupNoticesTest::notesAreOfferedOnce()
@@ -70,7 +71,8 @@ void StartupNoticesTest::notesAreOfferedOnce()
     QFETCH(QString, marker);
     QFETCH(QString, preference);
     QFETCH(bool, offered);
-    m_service->answer(u"GET /pursewell/1.0.10/release-notes.md"_s, {{.body = "New"}});
+    m_service->answer(u"GET /pursewell/%1/release-notes.md"_s.arg(kApplicationVersion),
+                      {{.body = "New"}});
     if (!marker.isEmpty())
         QSettings().setValue("whatsNew/lastShownVersion", marker);
     if (!preference.isEmpty())
@@ -85,7 +87,8 @@ void StartupNoticesTest::notesAreOfferedOnce()
     if (offered) {
         QFile settings(QSettings().fileName());
         QVERIFY(settings.open(QIODevice::ReadOnly));
-        QVERIFY(settings.readAll().contains("lastShownVersion=1.0.10"));
+        QVERIFY(QString::fromUtf8(settings.readAll())
+                    .contains(u"lastShownVersion="_s + kApplicationVersion));
         QTRY_VERIFY(window.findChild<QDialog *>(u"whatsNewDialog"_s));
     }
     QTEST(QSettings().value("whatsNew/lastShownVersion").toString(), "markerAfter");
@@ -100,16 +103,17 @@ void StartupNoticesTest::updateIsOfferedOnce_data()
     QTest::addColumn<QString>("dismissed");
     QTest::addColumn<bool>("offered");
     QTest::newRow("none") << QString() << true;
-    QTest::newRow("older") << u"1.0.9"_s << true;
-    QTest::newRow("same") << u"1.0.11"_s << false;
-    QTest::newRow("newer") << u"1.0.12"_s << false;
+    QTest::newRow("older") << u"98.0.0"_s << true;
+    QTest::newRow("same") << u"99.0.0"_s << false;
+    QTest::newRow("newer") << u"99.0.1"_s << false;
 }
 
 void StartupNoticesTest::updateIsOfferedOnce()
 {
     QFETCH(QString, dismissed);
     QFETCH(bool, offered);
-    m_service->answer(u"GET /pursewell/stable/latest.json"_s, {{.body = releaseManifest()}});
+    m_service->answer(u"GET /pursewell/stable/latest.json"_s,
+                      {{.body = releaseManifest("1.0.11", "99.0.0")}});
     if (!dismissed.isEmpty())
         preferences()->set(u"update_dismissed_version"_s, dismissed);
     for (const char *button : {"laterButton", "downloadButton", ""}) {
@@ -126,7 +130,7 @@ void StartupNoticesTest::updateIsOfferedOnce()
             pressed->click();
         else
             dialog->close();
-        QCOMPARE(preferences()->getOr(u"update_dismissed_version"_s, {}), u"1.0.11"_s);
+        QCOMPARE(preferences()->getOr(u"update_dismissed_version"_s, {}), u"99.0.0"_s);
         preferences()->set(u"update_dismissed_version"_s, dismissed);
     }
 }

@@ -284,6 +284,7 @@ void MainWindowSignInTest::accountWindowComesBackAtItsFirstTab()
     QVERIFY(screen->isVisible());
     QCOMPARE(navigation->currentRow(), 0);
     Q_EMIT screen->logoutRequested();
+    QVERIFY(!screen->isVisible());
     QCOMPARE(page(), u"welcomeScreen"_s);
 }
 

@@ -1,5 +1,7 @@
 #include "shell/theme/ButtonStyles.h"
 
+#include <QPushButton>
+
 using namespace Qt::StringLiterals;
 
 QString primaryButtonStyle()
@@ -19,4 +21,12 @@ QString primaryButtonFocusStyle()
 QString linkButtonStyle()
 {
     return u"QPushButton { color: %1; border: none; background: transparent; }"_s.arg(u"#4DB6AC"_s);
+}
+
+void restyleButtons(QWidget *parent)
+{
+    for (QPushButton *button : parent->findChildren<QPushButton *>()) {
+        if (!button->styleSheet().isEmpty())
+            button->setStyleSheet(button->styleSheet());
+    }
 }
