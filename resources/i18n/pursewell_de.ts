@@ -3057,6 +3057,14 @@ Es sind %n Fehler aufgetreten.</numerusform>
         <source>The new language will take effect the next time you start Kestrelwood Pursewell.</source>
         <translation>Die neue Sprache gilt ab dem nächsten Start von Kestrelwood Pursewell.</translation>
     </message>
+    <message>
+        <source>Restore Failed</source>
+        <translation>Wiederherstellung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The account could not be restored.</source>
+        <translation>Das Konto konnte nicht wiederhergestellt werden.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsSyncSection</name>

@@ -3057,6 +3057,14 @@ Se produjeron %n errores.</numerusform>
         <source>The new language will take effect the next time you start Kestrelwood Pursewell.</source>
         <translation>El nuevo idioma se aplicará la próxima vez que inicie Kestrelwood Pursewell.</translation>
     </message>
+    <message>
+        <source>Restore Failed</source>
+        <translation>Error al restaurar</translation>
+    </message>
+    <message>
+        <source>The account could not be restored.</source>
+        <translation>No se pudo restaurar la cuenta.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsSyncSection</name>

@@ -3057,6 +3057,14 @@ Les deux côtés du virement seront supprimés.</translation>
         <source>The new language will take effect the next time you start Kestrelwood Pursewell.</source>
         <translation>La nouvelle langue sera utilisée au prochain démarrage de Kestrelwood Pursewell.</translation>
     </message>
+    <message>
+        <source>Restore Failed</source>
+        <translation>Échec de la restauration</translation>
+    </message>
+    <message>
+        <source>The account could not be restored.</source>
+        <translation>Impossible de restaurer le compte.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsSyncSection</name>

@@ -3042,6 +3042,14 @@ Both sides of the transfer will be deleted.</source>
         <source>The new language will take effect the next time you start Kestrelwood Pursewell.</source>
         <translation>新しい言語は、次回 Kestrelwood Pursewell を起動したときから使われます。</translation>
     </message>
+    <message>
+        <source>Restore Failed</source>
+        <translation>復元の失敗</translation>
+    </message>
+    <message>
+        <source>The account could not be restored.</source>
+        <translation>口座を復元できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>SettingsSyncSection</name>

@@ -2,7 +2,9 @@
 
 #include "data/Database.h"
 
+#include <QDebug>
 #include <QSqlDatabase>
+#include <QSqlError>
 
 SqlTransaction::SqlTransaction(Database *database)
     : m_database(database)
@@ -20,5 +22,7 @@ bool SqlTransaction::commit()
 {
     // A refused commit leaves the transaction open, so that the destructor can undo it.
     m_open = m_open && !m_database->connection().commit();
+    if (m_open)
+        qWarning() << "Commit failed:" << m_database->connection().lastError().text();
     return !m_open;
 }

@@ -2,6 +2,7 @@
 
 #include "kestaccount/PageContent.h"
 #include "kestaccount/PageLabel.h"
+#include "kestaccount/PageRow.h"
 
 #include <QPushButton>
 #include <QScrollArea>
@@ -65,13 +66,18 @@ void AccountPage::setContent(PageContent *content)
         moveFocus(focusName);
 }
 
+// Never to a button of a row: it may belong to another row than the one that had the focus, and the
+// next press would revoke or remove what nobody pointed at.
 void AccountPage::moveFocus(const QString &objectName)
 {
-    QWidget *next = m_content->findChild<QPushButton *>(objectName);
-    if (!next)
-        next = m_content->findChild<QPushButton *>();
-    if (next)
-        next->setFocus(Qt::OtherFocusReason);
+    QWidget *next = this; // whose proxy leads back to the list of pages
+    for (QPushButton *button : m_content->findChildren<QPushButton *>()) {
+        if (qobject_cast<PageRow *>(button->parentWidget()))
+            continue;
+        if (next == this || button->objectName() == objectName)
+            next = button;
+    }
+    next->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace KestAccount

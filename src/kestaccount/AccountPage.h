@@ -8,7 +8,8 @@ namespace KestAccount {
 
 class PageContent;
 
-// One tab of the account screen: a title, and below it content that scrolls.
+// One tab of the account screen: a title, and below it content that scrolls. Its focus proxy takes
+// the keyboard when new content has no place for it.
 class AccountPage : public QWidget
 {
     Q_OBJECT

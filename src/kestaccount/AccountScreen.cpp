@@ -99,6 +99,7 @@ void AccountScreen::addPage(AccountPage *page, const QString &name)
 {
     connect(page, &AccountPage::succeeded, this, &AccountScreen::showSuccess);
     connect(page, &AccountPage::failed, this, &AccountScreen::showError);
+    page->setFocusProxy(m_navigation);
     m_navigation->addItem(name);
     m_pages->addWidget(page);
 }

@@ -136,20 +136,24 @@ void AuthClient::refreshToken(std::function<void(bool)> callback)
 
 void AuthClient::fetchCurrentUser(std::function<void(const User &)> callback)
 {
-    m_apiClient->get(u"/users/me"_s, [this, callback](bool success, int, const QJsonObject &body) {
-        takeUser(success, body, callback);
-    });
+    m_apiClient->get(
+        u"/users/me"_s,
+        [this, asked = userId(), callback](bool success, int, const QJsonObject &body) {
+            takeUser(success && asked == userId(), body, callback);
+        });
 }
 
 void AuthClient::updateProfile(const QString &displayName,
                                std::function<void(const User &)> callback)
 {
-    m_apiClient->patch(u"/users/me"_s, {{"display_name"_L1, displayName}},
-                       [this, callback](bool success, int, const QJsonObject &body) {
-                           takeUser(success, body, callback);
-                       });
+    m_apiClient->patch(
+        u"/users/me"_s, {{"display_name"_L1, displayName}},
+        [this, asked = userId(), callback](bool success, int, const QJsonObject &body) {
+            takeUser(success && asked == userId(), body, callback);
+        });
 }
 
+// An answer that comes after a sign-out tells of somebody else.
 void AuthClient::takeUser(bool success, const QJsonObject &body,
                           const std::function<void(const User &)> &callback)
 {

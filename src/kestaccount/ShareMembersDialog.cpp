@@ -172,6 +172,7 @@ void ShareMembersDialog::loadShares()
 // Runs after each of the two answers, in whichever order they come.
 void ShareMembersDialog::rebuild()
 {
+    m_isStale = m_asking;
     if (m_asking)
         return; // the button that asked is still inside its click
     const QWidget *focus = focusWidget();
@@ -255,6 +256,7 @@ QWidget *ShareMembersDialog::shareRow(const ShareMember &share)
     button->setAutoRaise(true);
     button->setToolTip(m_words.removeButtonText);
     button->setAccessibleName(m_words.removeButtonText);
+    button->setAccessibleDescription(row->primaryText());
     connect(
         button, &QToolButton::clicked, this,
         [this, userId = share.userId, name = row->primaryText()] { removeShare(userId, name); });
@@ -268,6 +270,7 @@ QWidget *ShareMembersDialog::candidateRow(const GroupMember &member)
     row->setObjectName(u"candidateRow"_s);
     auto *button = new QPushButton(m_words.shareButtonText);
     button->setObjectName(u"shareButton"_s);
+    button->setAccessibleDescription(row->primaryText());
     button->setAutoDefault(false); // Return closes the dialog and shares nothing
     button->setCursor(Qt::PointingHandCursor);
     connect(button, &QPushButton::clicked, this,
@@ -300,7 +303,8 @@ void ShareMembersDialog::removeShare(const QString &userId, const QString &name)
     if (!self)
         return;
     m_asking = false;
-    rebuild(); // with what was answered meanwhile
+    if (m_isStale)
+        rebuild();
     if (!isAgreed)
         return;
     startChange();

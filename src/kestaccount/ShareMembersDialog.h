@@ -27,6 +27,8 @@ public:
     ShareMembersDialog(Client *client, SharingBackend *backend, const QString &accountId,
                        const ShareWords &words, QWidget *parent = nullptr);
 
+    bool isBusy() const { return m_busy; } // a change is under way; closed now, it tells no more
+
 Q_SIGNALS:
     void sharingChanged(); // after each share or removal that the backend accepted
 
@@ -67,6 +69,7 @@ private:
     QString m_selfId{}; // the signed-in user's profile
     bool m_busy = false;
     bool m_asking = false; // a question is open that a button of the lists asked
+    bool m_isStale = false; // an answer came meanwhile
 };
 
 } // namespace KestAccount

@@ -76,6 +76,8 @@ void MainWindow::shareAccount(const Account &account)
     connect(&dialog, &ShareMembersDialog::sharingChanged, m_appState->syncEngine(),
             &SyncEngine::scheduleSync);
     dialog.exec();
+    if (dialog.isBusy())
+        m_appState->syncEngine()->scheduleSync(); // the answer will find nobody
 }
 
 void MainWindow::explainSharing()

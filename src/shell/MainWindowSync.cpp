@@ -67,9 +67,11 @@ void MainWindow::updateAuthUI()
                                              : tr("Sign in or sign up"));
     if (!isSignedIn) {
         m_statusBar->setSyncStatus(tr("Not signed in"));
-        // What it shows is no longer anybody's business, and its buttons could do nothing.
-        if (auto *screen = findChild<KestAccount::AccountScreen *>())
+        // It belongs to the one who was signed in: the next one is not to see these addresses.
+        if (auto *screen = findChild<KestAccount::AccountScreen *>()) {
             screen->close();
+            screen->deleteLater();
+        }
         showWelcomeScreen();
         return;
     }

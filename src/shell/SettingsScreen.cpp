@@ -170,12 +170,20 @@ void SettingsScreen::restoreSelectedAccount()
     const QString id = m_deleted->selectedId();
     if (id.isEmpty())
         return;
+    const bool isRestored = restoreWithRows(id);
+    m_deleted->reload(); // after an undone transaction too, whose first writes it has heard of
+    if (isRestored)
+        Q_EMIT deletedAccountRestored();
+    else
+        tellRestoreFailed();
+}
+
+// Nothing of it when the last write is refused.
+bool SettingsScreen::restoreWithRows(const QString &accountId)
+{
     SqlTransaction cascade(m_appState->database());
-    restoreRowsOf(id);
-    if (!m_appState->accounts()->restore(id) || !cascade.commit())
-        return; // all of it or nothing; the log tells why
-    m_deleted->reload();
-    Q_EMIT deletedAccountRestored();
+    restoreRowsOf(accountId);
+    return m_appState->accounts()->restore(accountId) && cascade.commit();
 }
 
 // What had been deleted before the account was stays deleted.
@@ -188,6 +196,14 @@ void SettingsScreen::restoreRowsOf(const QString &accountId)
     m_appState->transactions()->restoreByAccount(accountId, since);
     m_appState->recurring()->restoreByAccount(accountId, since);
     m_appState->reconciliations()->restoreByAccount(accountId, since);
+}
+
+void SettingsScreen::tellRestoreFailed()
+{
+    QMessageBox box(QMessageBox::Warning, tr("Restore Failed"),
+                    tr("The account could not be restored."), QMessageBox::Ok, this);
+    box.setObjectName(u"restoreFailedBox"_s);
+    box.exec();
 }
 
 void SettingsScreen::applyTheme()

@@ -38,7 +38,9 @@ private:
     SettingsPage *buildRegisterPage();
     SettingsPage *buildDataPage();
     void applyTheme();
+    bool restoreWithRows(const QString &accountId);
     void restoreRowsOf(const QString &accountId);
+    void tellRestoreFailed();
 
     AppState *m_appState;
     SettingsNavigation *m_navigation;

@@ -191,6 +191,7 @@ void SettingsSyncSection::runFullSync()
         m_appState->preferences()->remove(kCursorKey);
         m_appState->syncEngine()->syncNow();
     }
+    disable(m_fullSyncButton);
     awaitPass();
 }
 
@@ -208,15 +209,22 @@ void SettingsSyncSection::markAllPending()
 
 void SettingsSyncSection::awaitPass()
 {
-    if (m_syncNowButton->hasFocus() || m_fullSyncButton->hasFocus())
-        m_focusAfterPass = focusWidget();
-    m_syncNowButton->setEnabled(false);
-    m_fullSyncButton->setEnabled(false);
+    disable(m_syncNowButton);
     m_syncNowButton->setText(tr("Syncing..."));
     disconnect(m_passConnection);
     m_passConnection = connect(m_appState->syncEngine(), &SyncEngine::stateChanged, this,
                                &SettingsSyncSection::onStateChanged);
     onStateChanged(m_appState->syncEngine()->state()); // it may have refused
+}
+
+void SettingsSyncSection::disable(QPushButton *button)
+{
+    const bool hadFocus = window()->focusWidget() == button; // also behind the question
+    button->setEnabled(false);
+    if (!hadFocus)
+        return;
+    m_focusAfterPass = button;
+    m_focusMeanwhile = window()->focusWidget();
 }
 
 void SettingsSyncSection::onStateChanged(SyncState state)
@@ -235,8 +243,8 @@ void SettingsSyncSection::endPass()
     m_syncNowButton->setEnabled(true);
     m_fullSyncButton->setEnabled(true);
     m_syncNowButton->setText(tr("Sync Now"));
-    if (m_focusAfterPass && isActiveWindow())
-        m_focusAfterPass->setFocus(); // it was lost with the disabling
+    if (m_focusAfterPass && window()->focusWidget() == m_focusMeanwhile)
+        m_focusAfterPass->setFocus(); // unless the user has gone elsewhere
     m_focusAfterPass = nullptr;
     Q_EMIT passEnded();
 }

@@ -38,6 +38,7 @@ private:
     void runFullSync();
     void markAllPending();
     void awaitPass();
+    void disable(QPushButton *button);
     void onStateChanged(SyncEngine::SyncState state);
     void endPass();
 
@@ -49,6 +50,7 @@ private:
     QPushButton *m_fullSyncButton = nullptr;
     QMetaObject::Connection m_passConnection{}; // for the one pass that is waited for
     QPointer<QWidget> m_focusAfterPass{}; // the button that had the focus before
+    QPointer<QWidget> m_focusMeanwhile{}; // what has it for want of that button
     bool m_fullSyncWaits = false; // for the end of that pass
     bool m_isAsking = false; // for the user
 };

@@ -69,6 +69,7 @@ void SyncEngine::scheduleSync()
 void SyncEngine::syncNow()
 {
     if (m_signedInCheck && !m_signedInCheck()) {
+        ++m_pass; // an answer to whoever was signed in would come into the midst of something else
         m_syncQueued = false;
         setState(SyncState::Idle);
         return;
@@ -130,11 +131,12 @@ void SyncEngine::pushNextBatch()
     m_pendingChanges = remaining;
     qInfo().noquote() << "Push batch:" << batch.size() << "changes," << m_pendingChanges.size()
                       << "remaining";
-    m_apiClient->post(u"/sync/push"_s, {{"changes"_L1, batch}},
-                      [self = QPointer(this)](bool success, int status, const QJsonObject &body) {
-                          if (self)
-                              self->handlePushResult(success, status, body);
-                      });
+    m_apiClient->post(
+        u"/sync/push"_s, {{"changes"_L1, batch}},
+        [self = QPointer(this), pass = m_pass](bool success, int status, const QJsonObject &body) {
+            if (self && self->m_pass == pass)
+                self->handlePushResult(success, status, body);
+        });
 }
 
 // One batch a pass: what is left stays pending in the database, and the next pass collects it
@@ -204,8 +206,8 @@ void SyncEngine::pullChanges(const QString &since)
     query.addQueryItem(u"limit"_s, QString::number(kPullPageSize));
     m_apiClient->get(
         u"/sync/pull"_s,
-        [self = QPointer(this)](bool success, int status, const QJsonObject &body) {
-            if (self)
+        [self = QPointer(this), pass = m_pass](bool success, int status, const QJsonObject &body) {
+            if (self && self->m_pass == pass)
                 self->handlePullResult(success, status, body);
         },
         query);

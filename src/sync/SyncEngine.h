@@ -87,4 +87,5 @@ private:
     bool m_syncQueued = false;
     std::function<bool()> m_signedInCheck{};
     QJsonArray m_pendingChanges{}; // collected for this pass and not yet sent
+    int m_pass = 0; // which one's answers count
 };

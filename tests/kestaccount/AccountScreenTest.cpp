@@ -345,6 +345,8 @@ void AccountScreenTest::groupIsRebuiltUnderTheKeyboard()
     m_service->answer(u"GET /a/group"_s,
                       {{404}, {200, R"({"id":"g","members":[{"email":"ann@example.com"}]})"}});
     m_service->answer(u"POST /a/group/join/C0DE"_s, {{204}});
+    m_service->answer(u"GET /api/v1/realms/house/users/me/sessions"_s,
+                      {{200, R"({"sessions":[{"id":"s"},{"id":"t"}]})"}});
     openScreen();
     m_screen->showTab(Tab::Group);
     m_screen->refresh();
@@ -359,6 +361,14 @@ void AccountScreenTest::groupIsRebuiltUnderTheKeyboard()
     QCOMPARE(m_screen->focusWidget(), button(u"leaveButton"_s));
     QCOMPARE(status(), u"Joined group."_s);
     QCOMPARE(shownTexts().count(u"ann@example.com"_s), 1);
+
+    m_screen->showTab(Tab::Security);
+    QTRY_VERIFY(button(u"revokeSessionButton"_s));
+    const QPointer<QPushButton> revoke = button(u"revokeSessionButton"_s);
+    revoke->setFocus();
+    QTest::keyClick(revoke, Qt::Key_Space);
+    QTRY_VERIFY(!revoke); // a second press must not revoke what has come in its place
+    QCOMPARE(m_screen->focusWidget(), m_screen->findChild<QListWidget *>(u"navigation"_s));
 }
 
 void AccountScreenTest::newerMessageKeepsItsTime()

@@ -277,6 +277,11 @@ void AuthClientTest::keepsTheLastKnownUser()
     m_auth->updateProfile(u"A"_s, note);
     QTRY_COMPARE(users.size(), 4);
     QCOMPARE(m_auth->currentUser(), User());
+    m_service->answer(u"GET /users/me"_s, {{.body = R"({"id":"u1"})"}});
+    m_auth->fetchCurrentUser(note);
+    m_auth->logout(); // before the answer
+    QTRY_COMPARE(users.size(), 5);
+    QCOMPARE(users.last(), User());
 }
 
 void AuthClientTest::listsSessions()
