@@ -71,6 +71,15 @@ install_packages() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
+# resolve_paths <path>...: into paths, before a script leaves the folder that they start from.
+resolve_paths() {
+  paths=()
+  local path
+  for path in "$@"; do
+    paths+=("$(realpath --canonicalize-missing -- "$path")")
+  done
+}
+
 # build_preset <preset> [target]...: configures and builds build/<preset>, or these targets of it.
 build_preset() {
   local preset=$1

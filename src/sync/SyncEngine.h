@@ -48,7 +48,9 @@ public:
     void startAutoSync(int intervalMs); // starts with a pass at once
     void stopAutoSync(); // does not cancel a running pass
     void scheduleSync(); // one pass, kDebounceMs after the last call
-    void syncNow(); // or one further pass after the running one; an import is waited for
+    // Or one further pass after the running one; an import is waited for. With nobody signed in it
+    // sends nothing, and late answers to a running pass change nothing.
+    void syncNow();
 
     SyncState state() const { return m_state; }
     QString lastError() const { return m_lastError; }

@@ -11,8 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(Currency)
-
 namespace {
 
 constexpr qint64 kSmallest = std::numeric_limits<qint64>::min();

@@ -83,8 +83,7 @@ void ListsTest::sortOrdersAreWrittenTogetherOrNotAtAll()
     TestDatabase db;
     db.addSampleOwners();
     const QList<Account> before = db.accounts.listActive();
-    db.run(u"CREATE TRIGGER refusing BEFORE UPDATE ON accounts WHEN old.id = 'b' BEGIN "
-           "SELECT RAISE(ABORT, 'refused'); END"_s);
+    db.run(refusing(u"UPDATE ON accounts WHEN old.id = 'b'"_s));
     QVERIFY(!db.accounts.updateSortOrders({{u"a"_s, 7}, {u"b"_s, 8}}));
     QVERIFY(db.accounts.listActive() == before);
     QCOMPARE(db.takeSignals(), QStringList());

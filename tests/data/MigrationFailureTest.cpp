@@ -73,15 +73,10 @@ void MigrationFailureTest::failedVersionLeavesNoTrace_data()
                               << u"ALTER TABLE reconciliations ADD COLUMN %1 "_s.arg(name);
     }
     QTest::newRow("a trigger that refuses the last statement")
-        << 2
-        << u"CREATE TRIGGER refusing BEFORE UPDATE ON reconciliations BEGIN "
-           "SELECT RAISE(ABORT, 'refused'); END"_s
-        << u"DROP TRIGGER refusing"_s << u"UPDATE reconciliations SET "_s;
+        << 2 << refusing(u"UPDATE ON reconciliations"_s) << u"DROP TRIGGER refusing"_s
+        << u"UPDATE reconciliations SET "_s;
     QTest::newRow("a version that cannot be recorded")
-        << 2
-        << u"CREATE TRIGGER refusing BEFORE INSERT ON schema_version BEGIN "
-           "SELECT RAISE(ABORT, 'refused'); END"_s
-        << u"DROP TRIGGER refusing"_s << QString();
+        << 2 << refusing(u"INSERT ON schema_version"_s) << u"DROP TRIGGER refusing"_s << QString();
 }
 
 void MigrationFailureTest::failedVersionLeavesNoTrace()

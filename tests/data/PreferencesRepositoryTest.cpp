@@ -8,7 +8,6 @@
 using namespace Qt::StringLiterals;
 
 using Text = std::optional<QString>;
-Q_DECLARE_METATYPE(Text)
 
 class PreferencesRepositoryTest : public QObject
 {

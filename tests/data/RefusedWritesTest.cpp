@@ -10,7 +10,6 @@
 using namespace Qt::StringLiterals;
 
 using Write = std::function<bool(TestDatabase &)>;
-Q_DECLARE_METATYPE(Write)
 
 namespace {
 

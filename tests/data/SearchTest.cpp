@@ -7,8 +7,6 @@
 
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(SearchFilters)
-
 namespace {
 
 void add(TestDatabase &db, const QString &id, const QString &accountId, QDate date,

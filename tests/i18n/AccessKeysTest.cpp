@@ -3,6 +3,7 @@
 #include "core/Language.h"
 #include "i18n/LanguageChange.h"
 #include "shell/ShellFixture.h"
+#include "support/LanguageRows.h"
 #include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
@@ -12,7 +13,7 @@ class AccessKeysTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void menusHaveOneEntryToAKey_data();
+    void menusHaveOneEntryToAKey_data() { addLanguageRows(); }
     void menusHaveOneEntryToAKey();
     void contextMenusHaveOneEntryToAKey_data();
     void contextMenusHaveOneEntryToAKey();
@@ -33,28 +34,12 @@ QStringList entriesOf(const QList<QAction *> &actions)
 // Asks the view for its menu over the first row.
 QStringList entriesOfContextMenu(QAbstractItemView *view)
 {
-    QStringList texts;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, view, [&] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        if (!menu)
-            return;
-        texts = entriesOf(menu->actions());
-        menu->close();
-    });
-    look.start(10);
-    Q_EMIT view->customContextMenuRequested(view->visualRect(view->model()->index(0, 0)).center());
-    return QTest::qWaitFor([&texts] { return !texts.isEmpty(); }) ? texts : QStringList();
+    const QPoint place = view->visualRect(view->model()->index(0, 0)).center();
+    const auto entries = chooseInMenu([&] { Q_EMIT view->customContextMenuRequested(place); });
+    return entries.value(true) + entries.value(false);
 }
 
 } // namespace
-
-void AccessKeysTest::menusHaveOneEntryToAKey_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &language : Language::supported())
-        QTest::newRow(qPrintable(language)) << language;
-}
 
 void AccessKeysTest::menusHaveOneEntryToAKey()
 {

@@ -1,4 +1,4 @@
-#include "core/Language.h"
+#include "support/LanguageRows.h"
 #include "support/TestSupport.h"
 
 #include <QXmlStreamReader>
@@ -112,21 +112,11 @@ class TranslationsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cataloguesFollowTheSource_data() { addLanguages(); }
+    void cataloguesFollowTheSource_data() { addLanguageRows(); }
     void cataloguesFollowTheSource();
-    void textsKeepTheirParts_data() { addLanguages(); }
+    void textsKeepTheirParts_data() { addLanguageRows(); }
     void textsKeepTheirParts();
-
-private:
-    static void addLanguages();
 };
-
-void TranslationsTest::addLanguages()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &language : Language::supported())
-        QTest::newRow(qPrintable(language)) << language;
-}
 
 void TranslationsTest::cataloguesFollowTheSource()
 {

@@ -36,7 +36,6 @@ private:
 };
 
 using Call = std::function<void(AccountClient *, QString *)>;
-Q_DECLARE_METATYPE(Call)
 
 void AccountClientTest::init()
 {

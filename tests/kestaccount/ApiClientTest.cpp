@@ -24,8 +24,6 @@ struct Answer
 
 } // namespace
 
-Q_DECLARE_METATYPE(Answer)
-
 class ApiClientTest : public QObject
 {
     Q_OBJECT

@@ -4,9 +4,8 @@
 #include "kestaccount/ApiClient.h"
 #include "kestaccount/TokenManager.h"
 #include "support/FakeHttpService.h"
+#include "support/OpenedUrls.h"
 #include "support/TestSupport.h"
-
-#include <QDesktopServices>
 
 using namespace KestAccount;
 using namespace Qt::StringLiterals;
@@ -15,12 +14,8 @@ class AuthClientTest : public QObject
 {
     Q_OBJECT
 
-public Q_SLOTS:
-    void openPage(const QUrl &url) { m_page = url; } // what a browser would have been given
-
 private Q_SLOTS:
     void init();
-    void cleanup();
     void restoresTheSession_data();
     void restoresTheSession();
     void signsInThroughTheBrowser_data();
@@ -45,21 +40,15 @@ private:
     std::unique_ptr<ApiClient> m_api{};
     std::unique_ptr<AuthClient> m_auth{};
     QStringList m_events{}; // the signals, in their order
-    QUrl m_page{};
+    OpenedUrls m_opened{};
+    QUrl m_page{}; // the last one that a browser would have been given
 };
 
 void AuthClientTest::init()
 {
-    m_page.clear();
-    QDesktopServices::setUrlHandler(u"http"_s, this, "openPage");
+    m_auth.reset();
     m_service = std::make_unique<FakeHttpService>();
     start({}, {});
-}
-
-void AuthClientTest::cleanup()
-{
-    m_auth.reset();
-    QDesktopServices::unsetUrlHandler(u"http"_s);
 }
 
 void AuthClientTest::start(const QString &access, const QString &refresh)
@@ -124,6 +113,7 @@ void AuthClientTest::restoresTheSession()
 quint16 AuthClientTest::startLogin()
 {
     m_auth->login();
+    m_page = m_opened.take().value(0);
     const QUrl redirect(QUrlQuery(m_page).queryItemValue(u"redirect_uri"_s, QUrl::FullyDecoded));
     return static_cast<quint16>(redirect.port());
 }

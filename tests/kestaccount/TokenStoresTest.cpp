@@ -82,7 +82,6 @@ private Q_SLOTS:
 };
 
 using StoreMaker = std::function<std::unique_ptr<TokenStore>()>;
-Q_DECLARE_METATYPE(StoreMaker)
 
 void TokenStoresTest::keepsReplacesAndRemoves_data()
 {

@@ -3,6 +3,7 @@
 set -eu
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
+trap 'exit 143' TERM INT
 export HOME="$home" XDG_DATA_HOME="$home/data" XDG_RUNTIME_DIR="$home/run" XDG_CACHE_HOME="$home/cache"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 dbus-run-session -- sh -c '

@@ -6,9 +6,8 @@
 #include "kestupdate/UpdateFlows.h"
 #include "kestupdate/WhatsNewDialog.h"
 #include "support/FakeHttpService.h"
+#include "support/OpenedUrls.h"
 #include "support/TestSupport.h"
-
-#include <QDesktopServices>
 
 using namespace KestUpdate;
 using namespace Qt::StringLiterals;
@@ -18,7 +17,6 @@ namespace {
 const QString kNotes = u"GET /1.0.10/release-notes.md"_s;
 const QString kGermanNotes = u"GET /1.0.10/release-notes.de.md"_s;
 const QString kManifest = u"GET /stable/latest.json"_s;
-const QStringList kSchemes{u"http"_s, u"https"_s, u"file"_s, u"javascript"_s, u"ms-word"_s};
 
 // The title, and of the notes of a release the line and the button below them.
 QString wordsOf(const QWidget *window)
@@ -39,13 +37,9 @@ class UpdateWindowsTest : public QObject
 {
     Q_OBJECT
 
-public Q_SLOTS:
-    void keepUrl(const QUrl &url) { m_opened << url; } // what the desktop would have been given
-
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void cleanup();
     void fetchesNotes_data();
     void fetchesNotes();
     void loadsNothing_data();
@@ -65,7 +59,7 @@ private:
 
     std::unique_ptr<FakeHttpService> m_service{};
     QTemporaryDir m_directory{};
-    QList<QUrl> m_opened{};
+    OpenedUrls m_opened{};
 };
 
 void UpdateWindowsTest::initTestCase()
@@ -81,15 +75,7 @@ void UpdateWindowsTest::initTestCase()
 void UpdateWindowsTest::init()
 {
     m_service = std::make_unique<FakeHttpService>();
-    m_opened.clear();
-    for (const QString &scheme : kSchemes)
-        QDesktopServices::setUrlHandler(scheme, this, "keepUrl");
-}
-
-void UpdateWindowsTest::cleanup()
-{
-    for (const QString &scheme : kSchemes)
-        QDesktopServices::unsetUrlHandler(scheme);
+    m_opened.take();
 }
 
 void UpdateWindowsTest::fetchesNotes_data()
@@ -174,15 +160,14 @@ void UpdateWindowsTest::opensOnlyTheWeb()
     QTextCursor cursor(view->document());
     cursor.setPosition(4);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->cursorRect(cursor).center());
-    QCOMPARE(m_opened, wanted);
+    QCOMPARE(m_opened.take(), wanted);
     QCOMPARE(view->toPlainText(), before);
     QCOMPARE(notes.findChild<QWidget *>(u"downloadButton"_s) != nullptr, opens);
 
-    m_opened.clear();
     UpdateDialog update({.version = u"2"_s, .url = QUrl(address)}, u"1"_s, u"App"_s);
     const LogCatcher log;
     update.onDownloadClicked();
-    QCOMPARE(m_opened, wanted);
+    QCOMPARE(m_opened.take(), wanted);
     QCOMPARE(LogCatcher::warnings().contains(u"KestUpdate: download URL is empty or invalid"_s),
              !opens);
     QCOMPARE(update.result(), int(QDialog::Accepted));
@@ -221,7 +206,7 @@ void UpdateWindowsTest::offersTheUpdate()
     if (view)
         QTRY_COMPARE(view->toPlainText().trimmed(), notes);
     QTest::keyClick(&dialog, Qt::Key_Escape);
-    QVERIFY(!dialog.isVisible() && m_opened.isEmpty());
+    QVERIFY(!dialog.isVisible() && m_opened.take().isEmpty());
 }
 
 void UpdateWindowsTest::flowsAnswer_data()
@@ -296,12 +281,5 @@ void UpdateWindowsTest::flowsAnswer()
     QCOMPARE(opened, title);
 }
 
-int main(int argc, char *argv[])
-{
-    qputenv("LC_ALL", "de_DE.UTF-8");
-    const TestEnvironment environment;
-    QApplication application(argc, argv);
-    UpdateWindowsTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+PURSEWELL_TEST_MAIN(UpdateWindowsTest, qputenv("LC_ALL", "de_DE.UTF-8"))
 #include "UpdateWindowsTest.moc"

@@ -7,9 +7,8 @@
 #include "kestupdate/ReleaseNotesFetcher.h"
 #include "kestupdate/UpdateDialog.h"
 #include "support/FakeHttpService.h"
+#include "support/OpenedUrls.h"
 #include "support/StateFixture.h"
-
-#include <QDesktopServices>
 
 using namespace Qt::StringLiterals;
 
@@ -18,12 +17,8 @@ class StartupNoticesTest : public StateFixture
 {
     Q_OBJECT
 
-public Q_SLOTS:
-    void keepUrl(const QUrl &) { } // from the desktop
-
 private Q_SLOTS:
     void init();
-    void cleanup();
     void notesAreOfferedOnce_data();
     void notesAreOfferedOnce();
     void updateIsOfferedOnce_data();
@@ -34,20 +29,14 @@ private:
     PreferencesRepository *preferences() const { return state().preferences(); }
 
     std::unique_ptr<FakeHttpService> m_service{};
+    OpenedUrls m_opened{}; // nothing reaches the desktop
 };
 
 void StartupNoticesTest::init()
 {
     StateFixture::init();
     m_service = std::make_unique<FakeHttpService>();
-    QDesktopServices::setUrlHandler(u"http"_s, this, "keepUrl");
     qputenv("UPDATE_BASE_URL", m_service->url(u"/pursewell/stable/"_s).toEncoded());
-}
-
-void StartupNoticesTest::cleanup()
-{
-    QDesktopServices::unsetUrlHandler(u"http"_s);
-    StateFixture::cleanup();
 }
 
 void StartupNoticesTest::notesAreOfferedOnce_data()
@@ -147,14 +136,5 @@ void StartupNoticesTest::failedCheckIsOnlyLogged()
     QVERIFY(!QApplication::activeModalWidget());
 }
 
-int main(int argc, char *argv[])
-{
-    qputenv("LC_ALL", "en_US.UTF-8");
-    const TestEnvironment environment;
-    QApplication application(argc, argv);
-    QCoreApplication::setOrganizationName(u"Kestrelwood"_s);
-    QCoreApplication::setApplicationName(u"Pursewell"_s);
-    StartupNoticesTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+PURSEWELL_TEST_MAIN(StartupNoticesTest, qputenv("LC_ALL", "en_US.UTF-8"))
 #include "StartupNoticesTest.moc"

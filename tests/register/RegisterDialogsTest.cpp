@@ -8,7 +8,6 @@
 #include "support/DialogAnswer.h"
 
 #include <QComboBox>
-#include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -124,8 +123,7 @@ void RegisterDialogsTest::splitRowOpensTheForm()
     QFETCH(QString, way);
     QFETCH(QString, refused);
     addSplit();
-    run(u"CREATE TRIGGER refusing BEFORE INSERT ON split_lines WHEN %1 "
-        "BEGIN SELECT RAISE(ABORT, 'refused'); END"_s.arg(refused));
+    run(refusing(u"INSERT ON split_lines WHEN "_s + refused));
     openAccount();
     const DialogAnswer answer(u"transactionFormDialog"_s, [&way](QDialog *form) {
         typeInto(form, u"memoEdit"_s, u"new"_s);
@@ -137,18 +135,10 @@ void RegisterDialogsTest::splitRowOpensTheForm()
     const QPoint cell = view().visualRect(view().currentIndex()).center();
     type(u"'"_s); // the cell is locked, also for a copy of the row above
     QCOMPARE(shown(1, RegisterColumn::Payment), u"10.00"_s);
-    QTimer::singleShot(0, this, [] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        for (QAction *action : menu ? menu->actions() : QList<QAction *>()) {
-            menu->close();
-            if (action->text() == u"Edit &Splits..."_s)
-                action->trigger();
-        }
-    });
     if (way == u"Enter"_s)
         press(Qt::Key_Return);
     else if (way == u"menu"_s)
-        screen().onContextMenu(cell);
+        chooseInMenu([&] { screen().onContextMenu(cell); }, u"Edit &Splits..."_s);
     else
         QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, cell);
     QVERIFY(answer.wasAsked());

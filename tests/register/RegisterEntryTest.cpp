@@ -126,8 +126,7 @@ void RegisterEntryTest::transferMakesTwoRows()
 
 void RegisterEntryTest::transferIsWrittenWholeOrNotAtAll()
 {
-    run(u"CREATE TRIGGER refuse BEFORE INSERT ON transactions "
-        "WHEN new.payee LIKE 'Transfer to%' BEGIN SELECT RAISE(ABORT, 'full'); END"_s);
+    run(refusing(u"INSERT ON transactions WHEN new.payee LIKE 'Transfer to%'"_s));
     const RegisterEditBuffers transfer{.payee = u"[Transfer] Savings 50%1"_s, .payment = u"250"_s};
     openAccount();
     {
@@ -136,7 +135,7 @@ void RegisterEntryTest::transferIsWrittenWholeOrNotAtAll()
         QCOMPARE(LogCatcher::warnings().size(), 1);
     }
     QCOMPARE(stored(u"id"_s), QString());
-    run(u"DROP TRIGGER refuse"_s);
+    run(u"DROP TRIGGER refusing"_s);
     typeRow(transfer);
     QCOMPARE(stored(u"count(*)"_s), u"2"_s);
 }

@@ -11,24 +11,15 @@ using namespace Qt::StringLiterals;
 void RegisterFixture::init()
 {
     StateFixture::init();
-    m_screen = std::make_unique<RegisterScreen>(&state());
+    m_screen = keep<RegisterScreen>(&state());
     m_view = m_screen->findChild<RegisterTableView *>();
     m_model = m_screen->findChild<RegisterModel *>();
 }
 
-void RegisterFixture::cleanup()
-{
-    m_screen.reset();
-    StateFixture::cleanup();
-}
-
 void RegisterFixture::openAccount(const QString &accountId)
 {
-    m_screen->resize(1280, 600);
-    m_screen->show();
     m_screen->setAccount(accountId.isEmpty() ? m_checking : accountId);
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
+    showActive(m_screen, {1280, 600});
     m_view->setFocus();
 }
 

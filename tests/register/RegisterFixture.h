@@ -20,7 +20,6 @@ class RegisterFixture : public StateFixture
 
 protected Q_SLOTS:
     void init();
-    void cleanup();
 
 protected:
     RegisterScreen &screen() { return *m_screen; }
@@ -48,7 +47,7 @@ protected:
     QString message(); // under the grid
 
 private:
-    std::unique_ptr<RegisterScreen> m_screen;
+    RegisterScreen *m_screen = nullptr;
     RegisterTableView *m_view = nullptr;
     RegisterModel *m_model = nullptr;
 };

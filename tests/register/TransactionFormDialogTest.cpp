@@ -198,8 +198,7 @@ void TransactionFormDialogTest::payeeBringsItsLastTransaction()
     dialog.onPayeeSelected(u"Stranger"_s);
     QCOMPARE(dialog.transaction().memo, u"old"_s);
 
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    showActive(&dialog);
     QTest::keyClicks(dialog.focusWidget(), u"vet"_s);
     QTRY_VERIFY(QApplication::activePopupWidget());
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);

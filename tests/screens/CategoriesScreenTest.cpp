@@ -17,7 +17,6 @@ class CategoriesScreenTest : public StateFixture
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void parentsInACircleStayVisible();
     void searchShowsParents();
     void changesKeepWhatIsExpanded_data();
@@ -31,7 +30,7 @@ private:
     QModelIndex find(const QString &name) const;
     void choose(const QString &name, const QString &entry); // in the context menu
 
-    std::unique_ptr<CategoriesScreen> m_screen;
+    CategoriesScreen *m_screen = nullptr;
     QTreeView *m_tree = nullptr;
 };
 
@@ -44,21 +43,12 @@ void CategoriesScreenTest::init()
     add(u"Fun %1"_s);
     add(u"zoo"_s, u"Fun %1"_s);
     add(u"apples"_s, u"Food"_s);
-    m_screen = std::make_unique<CategoriesScreen>(&state());
+    m_screen = keep<CategoriesScreen>(&state());
     m_tree = m_screen->findChild<QTreeView *>();
     new QAbstractItemModelTester(m_screen->findChild<CategoryTreeModel *>(), m_tree);
     new QAbstractItemModelTester(m_tree->model(), m_tree);
     m_screen->reloadTree();
-    m_screen->resize(600, 500);
-    m_screen->show();
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
-}
-
-void CategoriesScreenTest::cleanup()
-{
-    m_screen.reset();
-    StateFixture::cleanup();
+    showActive(m_screen, {600, 500});
 }
 
 Category CategoriesScreenTest::add(const QString &id, const QString &parentId)
@@ -96,18 +86,8 @@ QModelIndex CategoriesScreenTest::find(const QString &name) const
 
 void CategoriesScreenTest::choose(const QString &name, const QString &entry)
 {
-    QTimer::singleShot(0, this, [&entry] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QAction *chosen = nullptr;
-        for (QAction *action : menu->actions()) {
-            if (action->text() == entry)
-                chosen = action;
-        }
-        menu->close();
-        QVERIFY2(chosen, qPrintable(entry));
-        chosen->trigger();
-    });
-    Q_EMIT m_tree->customContextMenuRequested(m_tree->visualRect(find(name)).center());
+    const QPoint place = m_tree->visualRect(find(name)).center();
+    chooseInMenu([&] { Q_EMIT m_tree->customContextMenuRequested(place); }, entry);
 }
 
 void CategoriesScreenTest::parentsInACircleStayVisible()
@@ -160,10 +140,9 @@ void CategoriesScreenTest::changesKeepWhatIsExpanded()
     std::optional<DialogAnswer> answer;
     if (name.isEmpty()) {
         answer.emplace(u"deleteCategoryQuestion"_s, [&row](QDialog *dialog) {
-            auto *box = qobject_cast<QMessageBox *>(dialog);
-            QVERIFY2(box->text().startsWith(u"Delete \"%1\"? Trans"_s.arg(row)),
-                     qPrintable(box->text()));
-            box->button(QMessageBox::Yes)->click();
+            const QString text = qobject_cast<QMessageBox *>(dialog)->text();
+            QVERIFY2(text.startsWith(u"Delete \"%1\"? Trans"_s.arg(row)), qPrintable(text));
+            clickYes(dialog);
         });
     } else {
         answer.emplace(u"categoryFormDialog"_s, [&name](QDialog *dialog) {
@@ -190,13 +169,9 @@ void CategoriesScreenTest::categoryInUseLeavesTheTreeAlone()
     run(u"UPDATE categories SET sync_status = 'synced'"_s);
     const QString stamp = isoStamp(currentStamp());
     for (const bool refused : {true, false}) {
-        run(refused ? u"CREATE TRIGGER refusing BEFORE UPDATE ON categories BEGIN "
-                      "SELECT RAISE(ABORT, 'refused'); END"_s
-                    : u"DROP TRIGGER refusing"_s);
+        run(refused ? refusing(u"UPDATE ON categories"_s) : u"DROP TRIGGER refusing"_s);
         const LogCatcher log;
-        const DialogAnswer answer(u"deleteCategoryQuestion"_s, [](QDialog *question) {
-            qobject_cast<QMessageBox *>(question)->button(QMessageBox::Yes)->click();
-        });
+        const DialogAnswer answer(u"deleteCategoryQuestion"_s, clickYes);
         choose(u"Food"_s, u"&Delete"_s);
         QCOMPARE(shown(), refused ? u"Food Fun %1"_s : u"Fun %1 apples bread"_s);
         const QStringList logged = log.warnings().filter(u"CategoryRepository::"_s);

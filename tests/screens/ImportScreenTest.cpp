@@ -2,23 +2,19 @@
 
 #include "core/state/AppState.h"
 #include "data/AccountRepository.h"
-#include "data/Database.h"
 #include "screens/ImportSummary.h"
 #include "services/ImportService.h"
 #include "support/DialogAnswer.h"
-#include "support/TestSupport.h"
-
-#include <memory>
+#include "support/StateFixture.h"
 
 using namespace Qt::StringLiterals;
 
-class ImportScreenTest : public QObject
+class ImportScreenTest : public StateFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void qifSourceFindsItsAccount_data();
     void qifSourceFindsItsAccount();
     void filesShareTheirSources();
@@ -40,18 +36,16 @@ private:
         return m_screen->findChild<Type *>(name);
     }
     void press(const QString &button) const { find<QAbstractButton>(button)->click(); }
-    void addAccount(const QString &name) const; // its id is its name
     QString write(const QString &name, const QByteArray &content) const; // the path
     void choose(const QStringList &paths); // in the file dialog, by its name field
     QFormLayout *mapRows() const { return find<QFormLayout>(u"qifMapRowsLayout"_s); }
     QComboBox *mapCombo(int row) const;
     QString mapLabel(int row) const;
     QString summary() const { return find<QPlainTextEdit>(u"summaryText"_s)->toPlainText(); }
-    QString stored() const; // live transactions, "account payee amount;"
+    QString stored() const; // transactions as "account payee amount", "; " between them
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<AppState> m_state;
-    std::unique_ptr<ImportScreen> m_screen;
+    QTemporaryDir m_files;
+    ImportScreen *m_screen = nullptr;
 };
 
 namespace {
@@ -68,33 +62,15 @@ QByteArray accountBlock(const QByteArray &name)
 
 void ImportScreenTest::init()
 {
-    m_directory = std::make_unique<QTemporaryDir>();
-    qputenv("PURSEWELL_DATA_DIR", m_directory->path().toUtf8());
-    m_state = std::make_unique<AppState>();
-    QVERIFY(m_state->initialize());
-    m_screen = std::make_unique<ImportScreen>(m_state.get());
-    m_screen->resize(650, 600);
-    m_screen->show();
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
-}
-
-void ImportScreenTest::cleanup()
-{
-    m_screen.reset();
-    m_state.reset();
-}
-
-void ImportScreenTest::addAccount(const QString &name) const
-{
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const Account account{.id = name, .name = name, .created_at = now, .updated_at = now};
-    QVERIFY(m_state->accounts()->insert(account));
+    StateFixture::init();
+    run(u"DELETE FROM accounts"_s);
+    m_screen = keep<ImportScreen>(&state());
+    showActive(m_screen, {650, 600});
 }
 
 QString ImportScreenTest::write(const QString &name, const QByteArray &content) const
 {
-    QFile file(m_directory->filePath(name));
+    QFile file(m_files.filePath(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("file not written");
     return file.fileName();
@@ -102,16 +78,11 @@ QString ImportScreenTest::write(const QString &name, const QByteArray &content) 
 
 void ImportScreenTest::choose(const QStringList &paths)
 {
-    const DialogAnswer answer(u"QFileDialog"_s, [&paths](QDialog *dialog) {
-        const QString typed =
-            paths.size() == 1 ? paths.first() : u"\"%1\""_s.arg(paths.join(u"\" \""));
-        dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(typed);
-        dialog->accept();
-    });
+    const QString typed = paths.size() == 1 ? paths.first() : u"\"%1\""_s.arg(paths.join(u"\" \""));
+    const DialogAnswer answer(u"QFileDialog"_s, chooseFile(typed));
     press(u"browseButton"_s);
     QVERIFY(answer.wasAsked());
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
+    showActive(m_screen);
 }
 
 QComboBox *ImportScreenTest::mapCombo(int row) const
@@ -126,13 +97,8 @@ QString ImportScreenTest::mapLabel(int row) const
 
 QString ImportScreenTest::stored() const
 {
-    QSqlQuery query(u"SELECT a.name || ' ' || t.payee || ' ' || t.amount FROM transactions t "
-                    "JOIN accounts a ON a.id = t.account_id ORDER BY t.rowid"_s,
-                    m_state->database()->connection());
-    QString rows;
-    while (query.next())
-        rows += query.value(0).toString() + u';';
-    return rows;
+    return run(u"SELECT a.name || ' ' || t.payee || ' ' || t.amount FROM transactions t "
+               "JOIN accounts a ON a.id = t.account_id ORDER BY t.rowid"_s);
 }
 
 void ImportScreenTest::qifSourceFindsItsAccount_data()
@@ -176,7 +142,7 @@ void ImportScreenTest::qifSourceFindsItsAccount()
     QTest::keyClick(m_screen->windowHandle(), Qt::Key_Tab);
     QVERIFY(mapCombo(0)->hasFocus());
     press(u"importButton"_s);
-    QCOMPARE(stored(), account + u" Grocer -500;"_s);
+    QCOMPARE(stored(), account + u" Grocer -500"_s);
 }
 
 void ImportScreenTest::filesShareTheirSources()
@@ -192,11 +158,11 @@ void ImportScreenTest::filesShareTheirSources()
     mapCombo(3)->setCurrentIndex(mapCombo(3)->findData(u"__skip__"_s));
     QFile::remove(gone);
     press(u"importButton"_s);
-    QCOMPARE(stored(), u"Giro Grocer -500;"_s);
+    QCOMPARE(stored(), u"Giro Grocer -500"_s);
     QCOMPARE(summary(),
              u"Import complete!\n\n1 transaction(s) imported\n1 duplicate(s) skipped\n"
              "1 record(s) skipped (unmapped source account)"_s);
-    QCOMPARE(m_state->accounts()->listActive().size(), 2); // Gone too, though its file went away
+    QCOMPARE(state().accounts()->listActive().size(), 2); // Gone too, though its file went away
 }
 
 void ImportScreenTest::csvPreviewGuessesColumns_data()
@@ -243,7 +209,7 @@ void ImportScreenTest::csvMakesItsAccount_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("stored");
     QTest::newRow("made") << true << u"A & B"_s
-                          << u"A & B Opening Balance 1000;A & B Ann, Bob -350;"_s;
+                          << u"A & B Opening Balance 1000; A & B Ann, Bob -350"_s;
     QTest::newRow("without a name") << true << u" "_s << QString();
     QTest::newRow("not now") << false << u"A & B"_s << QString();
 }
@@ -285,7 +251,7 @@ void ImportScreenTest::formatSwitchClears()
     QCOMPARE(find<QTableWidget>(u"previewTable"_s)->rowCount(), 0);
     press(u"importButton"_s); // neither file is chosen any more
     QCOMPARE(summary(), QString());
-    QVERIFY(m_state->accounts()->listActive().isEmpty());
+    QVERIFY(state().accounts()->listActive().isEmpty());
 }
 
 // A look at the middle of an import: what a person does then reaches nothing.
@@ -297,7 +263,7 @@ void ImportScreenTest::nothingInterruptsAnImport()
         records += "D1/2/2024\nT" + QByteArray::number(i) + "\n^\n";
     choose({write(u"a.qif"_s, accountBlock("Giro") + records)});
     int looks = 0;
-    connect(m_state->importService(), &ImportService::importProgress, m_screen.get(), [&] {
+    connect(state().importService(), &ImportService::importProgress, m_screen, [&] {
         auto *progress = m_screen->findChild<QProgressDialog *>();
         QTRY_VERIFY(progress->isVisible());
         QTest::keyClick(progress->windowHandle(), Qt::Key_Escape);
@@ -325,7 +291,7 @@ void ImportScreenTest::everyWayOutCompletes_data()
 void ImportScreenTest::everyWayOutCompletes()
 {
     QFETCH(QString, button);
-    const QSignalSpy completed(m_screen.get(), &ImportScreen::importCompleted);
+    const QSignalSpy completed(m_screen, &ImportScreen::importCompleted);
     press(u"qifRadio"_s);
     choose({write(u"a.qif"_s, accountBlock("Giro"))});
     press(u"importButton"_s);
@@ -347,13 +313,13 @@ void ImportScreenTest::everyWayOutCompletes()
 void ImportScreenTest::deletedAccountsGetNothing()
 {
     addAccount(u"Card"_s);
-    addAccount(u"Giro"_s);
+    const QString giro = addAccount(u"Giro"_s);
     auto *target = find<QComboBox>(u"accountCombo"_s);
     QTRY_COMPARE(target->count(), 2);
     target->setCurrentText(u"Giro"_s);
     press(u"qifRadio"_s);
     choose({write(u"a.qif"_s, accountBlock("Giro"))});
-    QVERIFY(m_state->accounts()->softDelete(u"Giro"_s));
+    QVERIFY(state().accounts()->softDelete(giro));
     QTRY_COMPARE(target->count(), 1);
     QCOMPARE(target->currentIndex(), -1); // and not the next one, unasked
     press(u"importButton"_s);
@@ -380,8 +346,7 @@ void ImportScreenTest::fullDiskIsTold()
     for (int i = 0; i < 100; ++i)
         rows += "2024-03-01," + QByteArray(1000, 'p') + ',' + QByteArray::number(i) + '\n';
     choose({write(u"bank.csv"_s, rows)});
-    QSqlQuery limit(u"PRAGMA max_page_count = 1"_s, m_state->database()->connection()); // as it is
-    limit.finish();
+    run(u"PRAGMA max_page_count = 1"_s); // as it is
     press(u"importButton"_s);
     QCOMPARE(summary(),
              u"Import failed.\nA database error stopped the import and all changes were rolled "

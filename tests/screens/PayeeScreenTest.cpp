@@ -18,7 +18,6 @@ class PayeeScreenTest : public StateFixture
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void changesWhatIsSelected_data();
     void changesWhatIsSelected();
 
@@ -27,7 +26,7 @@ private:
     QStringList
     click(const QString &button); // the texts of the boxes, each answered with Yes or Ok
 
-    std::unique_ptr<PayeeScreen> m_screen;
+    PayeeScreen *m_screen = nullptr;
     QListWidget *m_list = nullptr;
 };
 
@@ -41,22 +40,12 @@ void PayeeScreenTest::init()
         addTransaction(u"2024-02-29"_s, payee, -100);
     run(u"UPDATE transactions SET sync_status = 'synced'"_s);
     run(u"UPDATE transactions SET deleted_at = created_at, memo = 'gone' WHERE rowid = 1"_s);
-    run(u"CREATE TRIGGER refusing BEFORE UPDATE ON transactions WHEN "
-        "old.payee = 'Stubborn' BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
-    m_screen = std::make_unique<PayeeScreen>(&state());
+    run(refusing(u"UPDATE ON transactions WHEN old.payee = 'Stubborn'"_s));
+    m_screen = keep<PayeeScreen>(&state());
     m_list = m_screen->findChild<QListWidget *>();
     m_screen->refresh();
-    m_screen->resize(550, 500);
-    m_screen->show();
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
+    showActive(m_screen, {550, 500});
     QCOMPARE(m_list->count(), 5 + kMany.size());
-}
-
-void PayeeScreenTest::cleanup()
-{
-    m_screen.reset();
-    StateFixture::cleanup();
 }
 
 void PayeeScreenTest::select(const QStringList &payees)
@@ -124,7 +113,7 @@ void PayeeScreenTest::changesWhatIsSelected()
     QFETCH(QStringList, selected);
     QFETCH(QString, typed);
     QFETCH(QString, target);
-    const QSignalSpy changed(m_screen.get(), &PayeeScreen::payeesChanged);
+    const QSignalSpy changed(m_screen, &PayeeScreen::payeesChanged);
     const QSignalSpy repository(state().transactions(),
                                 &TransactionRepository::transactionsChanged);
     select(selected);

@@ -16,7 +16,6 @@ class ReconciliationScreenTest : public StateFixture
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void offersTheNextStatementDate_data();
     void offersTheNextStatementDate();
     void gateIsExactToTheCent_data();
@@ -37,7 +36,7 @@ private:
         return m_screen->findChild<Type *>(name);
     }
 
-    std::unique_ptr<ReconciliationScreen> m_screen;
+    ReconciliationScreen *m_screen = nullptr;
     ReconciliationModel *m_model = nullptr;
     QTableView *m_table = nullptr;
     QString m_account;
@@ -47,16 +46,10 @@ void ReconciliationScreenTest::init()
 {
     StateFixture::init();
     m_account = addAccount(u"Giro"_s, {.currency = Currency::EUR});
-    m_screen = std::make_unique<ReconciliationScreen>(&state());
+    m_screen = keep<ReconciliationScreen>(&state());
     m_model = m_screen->findChild<ReconciliationModel *>();
     m_table = find<QTableView>(u"transactionTable"_s);
     new QAbstractItemModelTester(m_model, m_model);
-}
-
-void ReconciliationScreenTest::cleanup()
-{
-    m_screen.reset();
-    StateFixture::cleanup();
 }
 
 Transaction ReconciliationScreenTest::add(const QString &date, qint64 amount, bool cleared,
@@ -74,10 +67,7 @@ Transaction ReconciliationScreenTest::add(const QString &date, qint64 amount, bo
 void ReconciliationScreenTest::start()
 {
     m_screen->startForAccount(m_account);
-    m_screen->resize(1100, 720);
-    m_screen->show();
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
+    showActive(m_screen, {1100, 720});
 }
 
 void ReconciliationScreenTest::typeBalance(const QString &text)
@@ -268,8 +258,7 @@ void ReconciliationScreenTest::ticksSurviveAddEditAndDelete()
         QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
         box->button(QMessageBox::Yes)->click();
     });
-    m_screen->activateWindow(); // the shortcut waits for the form to be gone
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
+    showActive(m_screen); // the shortcut waits for the form to be gone
     QTest::keyClick(m_table, Qt::Key_Delete);
     QVERIFY(deleted.wasAsked());
     QCOMPARE(ticks(), u"x--"_s);
@@ -281,8 +270,7 @@ void ReconciliationScreenTest::ticksSurviveAddEditAndDelete()
 void ReconciliationScreenTest::finishWritesWhatIsTicked()
 {
     run(u"UPDATE accounts SET starting_balance = 1000"_s);
-    run(u"CREATE TRIGGER t BEFORE UPDATE ON transactions WHEN old.amount = 100 "
-        "BEGIN SELECT raise(ABORT, 'refused'); END"_s);
+    run(refusing(u"UPDATE ON transactions WHEN old.amount = 100"_s));
     add(u"2025-12-01"_s, 50, true, true);
     add(u"2026-01-02"_s, 100, true);
     add(u"2026-01-03"_s, -300, false);
@@ -299,7 +287,7 @@ void ReconciliationScreenTest::finishWritesWhatIsTicked()
     QCOMPARE(stored(fields).section(u"; "_s, 2, 2), u"-300|0|0|3|synced"_s); // nothing yet
 
     const LogCatcher log;
-    QSignalSpy completed(m_screen.get(), &ReconciliationScreen::reconciliationCompleted);
+    QSignalSpy completed(m_screen, &ReconciliationScreen::reconciliationCompleted);
     const DialogAnswer answer(u"reconciliationCompleteBox"_s, [&completed](QDialog *box) {
         QCOMPARE(completed.size(), 0);
         QTest::keyClick(box, Qt::Key_Return);

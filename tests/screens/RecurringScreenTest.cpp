@@ -14,7 +14,6 @@ class RecurringScreenTest : public StateFixture
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void rowTellsWhatIsDue_data();
     void rowTellsWhatIsDue();
     void menuActsOnItsRow_data();
@@ -31,7 +30,7 @@ private:
         return state().recurring()->findById(id).value();
     }
 
-    std::unique_ptr<RecurringScreen> m_screen;
+    RecurringScreen *m_screen = nullptr;
     QTableView *m_table = nullptr;
     QString m_account;
     QDate m_today = QDate::currentDate();
@@ -41,19 +40,10 @@ void RecurringScreenTest::init()
 {
     StateFixture::init();
     m_account = addAccount(u"Giro \"%1\""_s);
-    m_screen = std::make_unique<RecurringScreen>(&state());
+    m_screen = keep<RecurringScreen>(&state());
     m_table = m_screen->findChild<QTableView *>();
     new QAbstractItemModelTester(m_table->model(), m_table);
-    m_screen->resize(800, 500);
-    m_screen->show();
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
-}
-
-void RecurringScreenTest::cleanup()
-{
-    m_screen.reset();
-    StateFixture::cleanup();
+    showActive(m_screen, {800, 500});
 }
 
 void RecurringScreenTest::add(const QString &payee, int days, bool active)
@@ -79,19 +69,8 @@ QString RecurringScreenTest::cell(int row, int column, int role) const
 
 QStringList RecurringScreenTest::openMenu(int row, const QString &choice)
 {
-    QStringList enabled;
-    QTimer::singleShot(0, this, [&] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        for (QAction *action : menu->actions()) {
-            if (action->isEnabled() && !action->isSeparator())
-                enabled << action->text();
-            if (action->text() == choice)
-                action->trigger();
-        }
-        menu->close();
-    });
-    m_screen->onContextMenu(m_table->visualRect(m_table->model()->index(row, 1)).center());
-    return enabled;
+    const QPoint place = m_table->visualRect(m_table->model()->index(row, 1)).center();
+    return chooseInMenu([&] { m_screen->onContextMenu(place); }, choice).value(true);
 }
 
 void RecurringScreenTest::rowTellsWhatIsDue_data()
@@ -141,9 +120,8 @@ void RecurringScreenTest::menuActsOnItsRow()
     add(u"Earlier"_s, -1);
     add(u"Rent"_s, 0);
     if (refused)
-        run(u"CREATE TRIGGER refusing BEFORE INSERT ON transactions BEGIN "
-            "SELECT RAISE(ABORT, 'refused'); END"_s);
-    const QSignalSpy changed(m_screen.get(), &RecurringScreen::transactionsChanged);
+        run(refusing(u"INSERT ON transactions"_s));
+    const QSignalSpy changed(m_screen, &RecurringScreen::transactionsChanged);
     openMenu(1, entry);
     QTEST(int(changed.size()), "signalled");
     QTEST(stored(u"count(*)"_s, u"recurring_id = 'Rent'"_s).toInt(), "posted");

@@ -3,23 +3,22 @@
 #include "core/Dates.h"
 #include "data/AccountRepository.h"
 #include "data/CategoryRepository.h"
-#include "register/RegisterFixture.h"
 #include "services/CsvReader.h"
 #include "support/DialogAnswer.h"
 #include "support/SampleRecords.h"
+#include "support/StateFixture.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
 using namespace Qt::StringLiterals;
 
-class ReportsScreenTest : public RegisterFixture
+class ReportsScreenTest : public StateFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void showsAndExports_data();
     void showsAndExports();
     void exportsNothing();
@@ -38,7 +37,7 @@ private:
     QStringList shown(int tab); // its rows with "|" between the columns, the headers first
     QString exportTo(const QString &path); // the name offered; null when nothing is asked
 
-    std::unique_ptr<ReportsScreen> m_reports;
+    ReportsScreen *m_reports = nullptr;
     QTabWidget *m_tabs = nullptr;
     QDate m_today;
     QString m_card; // an account
@@ -47,7 +46,7 @@ private:
 // Two months of one account; the words are those that break a CSV file.
 void ReportsScreenTest::init()
 {
-    RegisterFixture::init();
+    StateFixture::init();
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     weekStart() = Qt::Wednesday;
     m_card = addAccount(u"\"%1\"\nCard"_s,
@@ -62,18 +61,9 @@ void ReportsScreenTest::init()
     addTransaction(u"2025-03-31"_s, u"Move"_s, -1000,
                    {.account_id = m_card, .transfer_link_id = u"other"_s});
     m_today = QDate(2025, 3, 31);
-    m_reports = std::make_unique<ReportsScreen>(&state(), nullptr, [this] { return m_today; });
+    m_reports = keep<ReportsScreen>(&state(), nullptr, [this] { return m_today; });
     m_tabs = m_reports->findChild<QTabWidget *>();
-    m_reports->resize(800, 600);
-    m_reports->show();
-    m_reports->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_reports.get()));
-}
-
-void ReportsScreenTest::cleanup()
-{
-    m_reports.reset();
-    RegisterFixture::cleanup();
+    showActive(m_reports, {800, 600});
 }
 
 QTableWidget *ReportsScreenTest::table(int tab)
@@ -99,10 +89,9 @@ QString ReportsScreenTest::exportTo(const QString &path)
 {
     QString offered;
     const DialogAnswer answer(u"QFileDialog"_s, [&](QDialog *dialog) {
-        auto *files = qobject_cast<QFileDialog *>(dialog);
+        const auto *files = qobject_cast<QFileDialog *>(dialog);
         offered = QFileInfo(files->selectedFiles().value(0)).fileName();
-        files->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(path);
-        dialog->accept();
+        chooseFile(path)(dialog);
     });
     QTest::mouseClick(part<QPushButton>("exportButton"), Qt::LeftButton);
     return offered;

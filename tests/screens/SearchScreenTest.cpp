@@ -3,21 +3,22 @@
 #include "core/Dates.h"
 #include "data/AccountRepository.h"
 #include "data/TransactionRepository.h"
-#include "register/RegisterFixture.h"
+#include "register/RegisterColumn.h"
+#include "register/RegisterModel.h"
 #include "support/SampleRecords.h"
+#include "support/StateFixture.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
 using namespace Qt::StringLiterals;
 
-class SearchScreenTest : public RegisterFixture
+class SearchScreenTest : public StateFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void finds_data();
     void finds();
     void waitsForAPauseInTyping();
@@ -28,7 +29,7 @@ private:
     QString found(); // the check numbers from top to bottom
     void setFilter(const QString &name);
 
-    std::unique_ptr<SearchScreen> m_search;
+    SearchScreen *m_search = nullptr;
     RegisterModel *m_results = nullptr;
     QComboBox *m_accounts = nullptr;
     QString m_savings;
@@ -36,7 +37,7 @@ private:
 
 void SearchScreenTest::init()
 {
-    RegisterFixture::init();
+    StateFixture::init();
     m_savings = addAccount(u"Savings"_s);
     const QString category = categoryId(u"Groceries"_s);
     const QDate today = QDate::currentDate();
@@ -46,21 +47,12 @@ void SearchScreenTest::init()
                    {.account_id = m_savings, .category_id = category, .check_number = u"2"_s});
     addTransaction(isoDate(today), awkwardWords(), -1,
                    {.category_id = category, .check_number = u"3"_s});
-    m_search = std::make_unique<SearchScreen>(&state());
+    m_search = keep<SearchScreen>(&state());
     m_results = m_search->findChild<RegisterModel *>();
     m_accounts = m_search->findChild<QComboBox *>(u"accountCombo"_s);
     m_search->reloadFilters();
-    m_search->resize(800, 550);
-    m_search->show();
-    m_search->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_search.get()));
+    showActive(m_search, {800, 550});
     m_search->focusSearchField();
-}
-
-void SearchScreenTest::cleanup()
-{
-    m_search.reset();
-    RegisterFixture::cleanup();
 }
 
 QString SearchScreenTest::found()
@@ -131,7 +123,7 @@ void SearchScreenTest::resultsAreNotEdited()
 {
     QStringList asked;
     auto *table = m_search->findChild<QTableView *>(u"resultsView"_s);
-    connect(m_search.get(), &SearchScreen::editTransactionRequested, table,
+    connect(m_search, &SearchScreen::editTransactionRequested, table,
             [&](const QString &id) { asked << id; });
     QStringList ids;
     for (int row = 0; row < m_results->rowCount(); ++row) { // the insertion row is the last

@@ -1,6 +1,6 @@
 pursewell_test(CategoriesScreenTest LABEL widget
   USES pursewell_screens pursewell_state_fixture pursewell_test_database)
-pursewell_test(ImportScreenTest LABEL widget USES pursewell_screens)
+pursewell_test(ImportScreenTest LABEL widget USES pursewell_screens pursewell_state_fixture)
 pursewell_test(PayeeScreenTest LABEL widget
   USES pursewell_screens pursewell_state_fixture pursewell_test_database)
 pursewell_test(ReconciliationHistoryScreenTest LABEL widget USES pursewell_screens pursewell_state_fixture)
@@ -9,6 +9,6 @@ pursewell_test(RecurringScreenTest LABEL widget
   USES pursewell_screens pursewell_state_fixture pursewell_test_database)
 pursewell_test(ReportPeriodsTest LABEL widget USES pursewell_screens)
 pursewell_test(ReportsScreenTest LABEL widget
-  USES pursewell_screens pursewell_register_fixture SOURCES ../support/SampleRecords.cpp)
+  USES pursewell_screens pursewell_state_fixture pursewell_test_database)
 pursewell_test(SearchScreenTest LABEL widget
-  USES pursewell_screens pursewell_register_fixture SOURCES ../support/SampleRecords.cpp)
+  USES pursewell_screens pursewell_state_fixture pursewell_test_database)

@@ -9,7 +9,6 @@ CsvColumnMapping inOrder(bool hasHeader = false, const QString &dateFormat = {})
 }
 
 } // namespace
-Q_DECLARE_METATYPE(CsvColumnMapping)
 
 class CsvImportTest : public QObject
 {

@@ -250,17 +250,14 @@ void ImportServiceTest::undoesAll_data()
     QTest::addColumn<QString>("warning");
 
     QTest::newRow("partner refused")
-        << u"CREATE TRIGGER harm BEFORE UPDATE ON transactions BEGIN "
-           "SELECT RAISE(ABORT, 'refused'); END"_s
-        << u"1 imported, 1 aborted"_s
+        << refusing(u"UPDATE ON transactions"_s) << u"1 imported, 1 aborted"_s
         << u"QIF import aborted: failed to update retroactive partner"_s;
     QTest::newRow("commit refused")
-        << u"CREATE TRIGGER harm AFTER INSERT ON transactions BEGIN "
+        << u"CREATE TRIGGER refusing AFTER INSERT ON transactions BEGIN "
            "INSERT INTO guard VALUES ('nobody'); END"_s
         << u"3 imported, 1 linked, 1 earlier"_s << u"QIF import: commit failed: \"FOREIGN KEY"_s;
     QTest::newRow("one row refused")
-        << u"CREATE TRIGGER harm BEFORE INSERT ON transactions WHEN new.payee = 'From' BEGIN "
-           "SELECT RAISE(ABORT, 'refused'); END"_s
+        << refusing(u"INSERT ON transactions WHEN new.payee = 'From'"_s)
         << u"2 imported, 1 errors"_s
         << u"QIF import: insert failed for \"2024-01-02\" \"From\" amount 500 account \"b\""_s;
 }
@@ -282,7 +279,7 @@ void ImportServiceTest::undoesAll()
     const bool kept = result.databaseErrors > 0;
     QCOMPARE(home.rows() == before, !kept);
     QCOMPARE(home.count(u"categories"_s), kept ? 2 : 1);
-    home.run(u"DROP TRIGGER harm"_s); // and nothing is left open
+    home.run(u"DROP TRIGGER refusing"_s); // and nothing is left open
     QCOMPARE(home.import({inAccount(u"Visa"_s, u"D1/2/24;T5;PFrom;L[Bank]"_s)}).retroactiveLinks,
              1);
 }

@@ -1,7 +1,7 @@
 #include "services/SampleDataService.h"
 
-#include "core/Language.h"
 #include "services/CategoryService.h"
+#include "support/LanguageRows.h"
 #include "support/SampleRecords.h"
 #include "support/TestDatabase.h"
 #include "support/TestSupport.h"
@@ -31,18 +31,11 @@ class SampleDataServiceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rowsFindTheirCategories_data();
+    void rowsFindTheirCategories_data() { addLanguageRows(); }
     void rowsFindTheirCategories();
     void householdLooksRecent();
     void clearingLeavesTheRest();
 };
-
-void SampleDataServiceTest::rowsFindTheirCategories_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &language : Language::supported())
-        QTest::newRow(qPrintable(language)) << language;
-}
 
 void SampleDataServiceTest::rowsFindTheirCategories()
 {

@@ -141,18 +141,12 @@ class AccessibilityTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void controlsHaveNames();
-    void tabComesEverywhere_data() { addThemes(); }
-    void tabComesEverywhere();
-    void textsCanBeRead_data() { addThemes(); }
-    void textsCanBeRead();
+    void initTestCase();
+    void everyWindow_data();
+    void everyWindow();
     void statesOfAStyleCanBeRead();
 
 private:
-    using Look = void (AccessibilityTest::*)(const QString &name, QWidget *window);
-
-    static void addThemes();
-    void lookEverywhere(ThemeManager::Theme theme, Look look);
     void reportFaults();
     void fault(const QString &window, const QString &text) { m_faults << window + u": "_s + text; }
     void lookAtNames(const QString &name, QWidget *window);
@@ -164,17 +158,30 @@ private:
     QStringList m_faults;
 };
 
-void AccessibilityTest::addThemes()
+void AccessibilityTest::initTestCase()
+{
+    QApplication::setStyle(new IndicatorStyle);
+    QFont font = QApplication::font();
+    font.setPointSize(10); // as on most desktops
+    QApplication::setFont(font);
+}
+
+void AccessibilityTest::everyWindow_data()
 {
     QTest::addColumn<ThemeManager::Theme>("theme");
     QTest::newRow("light") << ThemeManager::Light;
     QTest::newRow("dark") << ThemeManager::Dark;
 }
 
-void AccessibilityTest::lookEverywhere(ThemeManager::Theme theme, Look look)
+void AccessibilityTest::everyWindow()
 {
+    QFETCH(ThemeManager::Theme, theme);
     m_faults.clear();
-    EveryWindow windows([&](const QString &name, QWidget *window) { (this->*look)(name, window); });
+    EveryWindow windows([this](const QString &name, QWidget *window) {
+        lookAtNames(name, window);
+        lookAtTexts(name, window);
+        walk(name, window); // last: it leaves its traces
+    });
     windows.shell().state()->themeManager()->setTheme(theme);
     windows.visitAll();
     reportFaults();
@@ -188,11 +195,6 @@ void AccessibilityTest::reportFaults()
     for (const QString &fault : std::as_const(m_faults))
         qCritical().noquote() << fault;
     QVERIFY(m_faults.isEmpty());
-}
-
-void AccessibilityTest::controlsHaveNames()
-{
-    lookEverywhere(ThemeManager::Light, &AccessibilityTest::lookAtNames);
 }
 
 void AccessibilityTest::lookAtNames(const QString &name, QWidget *window)
@@ -228,12 +230,6 @@ void AccessibilityTest::lookAtLabels(const QString &name, QWidget *window)
     }
 }
 
-void AccessibilityTest::tabComesEverywhere()
-{
-    QFETCH(ThemeManager::Theme, theme);
-    lookEverywhere(theme, &AccessibilityTest::walk);
-}
-
 // Presses Tab until it leads to nothing new, and looks at what changes in the control it comes to.
 void AccessibilityTest::walk(const QString &name, QWidget *window)
 {
@@ -266,12 +262,6 @@ void AccessibilityTest::walk(const QString &name, QWidget *window)
     }
     if (first)
         first->setFocus(); // closes the editor of a grid
-}
-
-void AccessibilityTest::textsCanBeRead()
-{
-    QFETCH(ThemeManager::Theme, theme);
-    lookEverywhere(theme, &AccessibilityTest::lookAtTexts);
 }
 
 void AccessibilityTest::lookAtTexts(const QString &name, QWidget *window)
@@ -341,17 +331,5 @@ void AccessibilityTest::statesOfAStyleCanBeRead()
     reportFaults();
 }
 
-int main(int argc, char *argv[])
-{
-    const TestEnvironment environment;
-    QApplication application(argc, argv);
-    QApplication::setOrganizationName(u"Kestrelwood"_s);
-    QApplication::setApplicationName(u"Pursewell"_s);
-    QApplication::setStyle(new IndicatorStyle);
-    QFont font = QApplication::font();
-    font.setPointSize(10); // as on most desktops
-    QApplication::setFont(font);
-    AccessibilityTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+PURSEWELL_TEST_MAIN(AccessibilityTest)
 #include "AccessibilityTest.moc"

@@ -24,7 +24,6 @@ namespace {
 using Change = std::function<bool(AppState &, const QString &accountId)>;
 
 const QString kRefreshed = u"POST /api/v1/realms/kestrelwood/auth/token/refresh"_s;
-const QString kPulled = u"GET /pursewell/v1/sync/pull"_s;
 
 } // namespace
 

@@ -37,11 +37,7 @@ const QList<PaleText> &knownPaleTexts()
         {0xFF6E8A7E, 0xFFF2F7F4}, // 3.46: muted in every other row
         {0xFF6E8A7E, 0xFFE8F5E9}, // 3.33: muted in the row under edit
         {0xFF6E8A7E, 0xFFEEF6F2}, // 3.41: muted on the page of a tab
-        {0xFFE65100, 0xFFFAFBFA}, // 3.65: due count in the status bar
-        {0xFF008800, 0xFFFAFBFA}, // 4.48: due count of the recurring transactions
-        {0xFF008800, 0xFFF2F7F4}, // 4.29: due date in every other row
-        {0xFFA0A0A4, 0xFFFFFFFF}, // 2.61: inactive recurring transaction
-        {0xFFA0A0A4, 0xFFF2F7F4}, // 2.41: likewise in every other row
+        {0xFF008800, 0xFFF2F7F4}, // 4.29: income in every other row of the categories
         {0xFF4DB6AC, 0xFFFAFBFA}, // 2.35: link buttons, numbers and signs of the welcome pages
         {0xFFC62828, 0xFF00897B}, // 1.30: selected negative balance in two-line mode
         {0xFF00897B, 0xFFFAFBFA}, // 4.16: owner of a group; primary links
@@ -55,11 +51,8 @@ const QList<PaleText> &knownPaleTexts()
         {0xFF6E8A7E, 0xFF1A2E28}, // 3.82: muted in every other row and under edit
         {0xFF6E8A7E, 0xFF2E443E}, // 2.78: muted on the page of a tab
         {0xFF5A7A6E, 0xFF0F1E19}, // 3.64: key hints below the grid
-        {0xFF008000, 0xFF0F1E19}, // 3.35: nothing left to split
-        {0xFFCC0000, 0xFF0F1E19}, // 2.92: too much split
-        {0xFF008800, 0xFF0F1E19}, // 3.71: due count of the recurring transactions
-        {0xFF008800, 0xFF152420}, // 3.46: due date in a row
-        {0xFF008800, 0xFF1A2E28}, // 3.09: due date in every other row
+        {0xFF008800, 0xFF152420}, // 3.46: income in a row of the categories
+        {0xFF008800, 0xFF1A2E28}, // 3.09: income in every other row of the categories
         {0xFFFF8A80, 0xFF4DB6AC}, // 1.07: selected negative balance in two-line mode
         // sidebar: its selected row
         {0xFF66BB6A, 0xFF26574A}, // 3.49

@@ -1,5 +1,6 @@
 #include "shell/Contrast.h"
 
+#include "shell/theme/IndicatorStyle.h"
 #include "shell/theme/MoneyColors.h"
 #include "shell/theme/ThemePalettes.h"
 #include "support/TestSupport.h"
@@ -9,6 +10,26 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QImage drawn(const QStyle &style, QStyle::PrimitiveElement element)
+{
+    QStyleOptionViewItem item;
+    QStyleOptionButton button;
+    const bool inList = element == QStyle::PE_IndicatorItemViewItemCheck;
+    QStyleOption &option = inList ? static_cast<QStyleOption &>(item) : button;
+    option.rect = QRect(2, 2, 14, 14);
+    option.palette = QApplication::palette();
+    option.state = QStyle::State_Enabled | QStyle::State_Off;
+    QImage image(18, 18, QImage::Format_RGB32);
+    image.fill(option.palette.color(QPalette::Window));
+    QPainter painter(&image);
+    style.drawPrimitive(element, &option, &painter);
+    return image;
+}
+
+} // namespace
+
 // The colours that no window shows at rest, or that the style draws with.
 class ContrastTest : public QObject
 {
@@ -17,6 +38,7 @@ class ContrastTest : public QObject
 private Q_SLOTS:
     void colorsCanBeTold_data();
     void colorsCanBeTold();
+    void edgesShow();
 
 private:
     static void addPalette(const char *theme, const QPalette &palette);
@@ -71,6 +93,24 @@ void ContrastTest::colorsCanBeTold()
     const QString fault =
         contrastFault(QString::fromUtf8(QTest::currentDataTag()), text, ground, needed);
     QVERIFY2(fault.isEmpty(), qPrintable(fault));
+}
+
+void ContrastTest::edgesShow()
+{
+    const IndicatorStyle style(u"Fusion"_s);
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(u"Fusion"_s));
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton,
+                               QStyle::PE_IndicatorItemViewItemCheck}) {
+        QApplication::setPalette(lightPalette());
+        QCOMPARE(drawn(style, element), drawn(*fusion, element));
+        QApplication::setPalette(darkPalette());
+        const QImage image = drawn(style, element);
+        double most = 0;
+        for (int x = 0; x < image.width(); ++x)
+            most = qMax(most,
+                        contrast(image.pixelColor(x, image.height() / 2), image.pixelColor(0, 0)));
+        QVERIFY(most >= kLargeContrast);
+    }
 }
 
 PURSEWELL_TEST_MAIN(ContrastTest)

@@ -18,6 +18,7 @@
 #include "services/SampleDataService.h"
 #include "shell/SignedInSupport.h"
 #include "shell/WelcomeScreen.h"
+#include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,10 +60,7 @@ void EveryWindow::visitAll()
 
 void EveryWindow::visit(const QString &name, QWidget *window)
 {
-    window->show();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window))
-        qFatal("%s does not become active", qPrintable(name));
+    showActive(window);
     QCoreApplication::processEvents(); // layouts that answer to the first size
     m_visitor(name, window);
 }

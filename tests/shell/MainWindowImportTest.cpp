@@ -36,10 +36,7 @@ void MainWindowImportTest::import(const QString &format, const QByteArray &conte
     file.close();
     m_shell->trigger(u"importAction"_s);
     press(format);
-    const DialogAnswer answer(u"QFileDialog"_s, [&file](QDialog *dialog) {
-        dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(file.fileName());
-        dialog->accept();
-    });
+    const DialogAnswer answer(u"QFileDialog"_s, chooseFile(file.fileName()));
     press(u"browseButton"_s);
     press(u"importButton"_s);
     press(u"doneButton"_s);

@@ -1,5 +1,4 @@
 #include "register/RegisterColumn.h"
-#include "screens/ReconciliationHistoryScreen.h"
 #include "screens/ReconciliationScreen.h"
 #include "shell/ShellFixture.h"
 #include "shell/theme/ThemeManager.h"
@@ -13,7 +12,6 @@ class MainWindowReconcileTest : public QObject
 
 private Q_SLOTS:
     void everyRunHasItsOwnWindow();
-    void historyWindowIsReused();
     void labelsFollowTheFontScale();
 };
 
@@ -42,28 +40,6 @@ void MainWindowReconcileTest::everyRunHasItsOwnWindow()
     QCOMPARE(shell.valueOf(u"SELECT reconciled FROM transactions"_s), u"1"_s);
     const auto *grid = shell.find<QTableView>(u"registerTable"_s);
     QCOMPARE(grid->model()->index(0, RegisterColumn::Clr).data().toString(), u"R"_s);
-}
-
-void MainWindowReconcileTest::historyWindowIsReused()
-{
-    ShellFixture shell;
-    shell.addAccount(u"One"_s);
-    shell.addAccount(u"Two"_s);
-    MainWindow *window = shell.openWindow();
-    shell.trigger(u"reconciliationHistoryAction"_s);
-    const auto open = [window] { return window->findChildren<ReconciliationHistoryScreen *>(); };
-    QCOMPARE(open().size(), 1);
-    QCOMPARE(open().first()->size(), QSize(750, 500));
-    open().first()->resize(800, 300);
-    open().first()->close();
-
-    window->selectAccount(u"Two"_s);
-    shell.trigger(u"reconciliationHistoryAction"_s);
-    QCOMPARE(open().size(), 1);
-    QVERIFY(open().first()->isVisible());
-    QCOMPARE(open().first()->size(), QSize(800, 300)); // as it was left
-    QCOMPARE(open().first()->findChild<QLabel *>(u"titleLabel"_s)->text(),
-             u"Reconciliation History — Two"_s);
 }
 
 void MainWindowReconcileTest::labelsFollowTheFontScale()

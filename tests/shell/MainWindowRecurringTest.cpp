@@ -114,6 +114,12 @@ void MainWindowRecurringTest::secondaryWindowIsReused_data()
         << u"payeesAction"_s << u"payeeScreen"_s << u"Payee Management"_s << QSize(550, 500)
         << u"INSERT INTO transactions (id, account_id, date, payee, amount, created_at, "
            "updated_at) VALUES ('t', 'Giro', '2024-02-29', 'Zoo', -1, '', '')"_s;
+    QTest::newRow("reconciliations, of another account")
+        << u"reconciliationHistoryAction"_s << u"reconciliationHistoryScreen"_s
+        << u"Reconciliation History"_s << QSize(750, 500)
+        << u"INSERT INTO reconciliations (id, account_id, statement_date, statement_balance, "
+           "reconciled_balance, completed_at, created_at, updated_at) "
+           "VALUES ('n', 'Other', '2024-02-29', 0, 0, '', '', '')"_s;
     QTest::newRow("reports") << u"reportsAction"_s << u"reportsScreen"_s << u"Reports"_s
                              << QSize(800, 600) << QString();
     QTest::newRow("search") << u"findAction"_s << u"searchScreen"_s << u"Search Transactions"_s
@@ -129,6 +135,8 @@ void MainWindowRecurringTest::secondaryWindowIsReused()
     QFETCH(QString, change);
     m_shell->openWindow(); // without an account
     m_shell->addAccount(u"Giro"_s);
+    m_shell->addAccount(u"Other"_s);
+    m_shell->window()->selectAccount(u"Giro"_s);
     m_shell->trigger(action);
     auto *window = m_shell->find<QWidget>(name);
     QVERIFY(window && window->isVisible() && window->isWindow());
@@ -140,6 +148,7 @@ void MainWindowRecurringTest::secondaryWindowIsReused()
     window->close();
     if (!change.isEmpty())
         m_shell->valueOf(change); // past the repositories, which would tell
+    m_shell->window()->selectAccount(u"Other"_s);
     m_shell->trigger(action);
     QCOMPARE(m_shell->window()->findChildren<QWidget *>(name), QList<QWidget *>{window});
     QVERIFY(window->isVisible());

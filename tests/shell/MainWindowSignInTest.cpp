@@ -7,17 +7,15 @@
 #include "register/RegisterScreen.h"
 #include "shell/ShellFixture.h"
 #include "shell/SignedInSupport.h"
+#include "support/OpenedUrls.h"
 #include "support/TestSupport.h"
 #include "sync/SyncEngine.h"
-
-#include <QDesktopServices>
 
 using namespace Qt::StringLiterals;
 using KestAccount::AuthClient;
 
 namespace {
 
-const QString kPulled = u"GET /pursewell/v1/sync/pull"_s;
 const QString kPushed = u"POST /pursewell/v1/sync/push"_s;
 
 FakeReply pageWith(QLatin1StringView key, const QJsonObject &record)
@@ -44,9 +42,6 @@ FakeReply pulledTransaction(const QString &accountId)
 class MainWindowSignInTest : public QObject
 {
     Q_OBJECT
-
-public Q_SLOTS:
-    void keepUrl(const QUrl &url) { m_openedUrl = url; }
 
 private Q_SLOTS:
     void init();
@@ -79,7 +74,6 @@ private:
 
     std::unique_ptr<FakeHttpService> m_service;
     std::unique_ptr<ShellFixture> m_shell;
-    QUrl m_openedUrl;
 };
 
 void MainWindowSignInTest::init()
@@ -110,10 +104,10 @@ void MainWindowSignInTest::welcomePageSignsIn()
     QVERIFY(!action(u"signOutAction"_s)->isVisible());
     QCOMPARE(action(u"accountAction"_s)->statusTip(), u"Sign in or sign up"_s);
 
-    QDesktopServices::setUrlHandler(u"http"_s, this, "keepUrl");
+    OpenedUrls opened;
     QTest::mouseClick(m_shell->find<QPushButton>(u"signInButton"_s), Qt::LeftButton);
-    QDesktopServices::unsetUrlHandler(u"http"_s);
-    QUrl redirect(QUrlQuery(m_openedUrl).queryItemValue(u"redirect_uri"_s, QUrl::FullyDecoded));
+    QUrl redirect(
+        QUrlQuery(opened.take().value(0)).queryItemValue(u"redirect_uri"_s, QUrl::FullyDecoded));
     const QJsonObject tokens = QJsonDocument::fromJson(freshTokens()).object();
     redirect.setQuery(QUrlQuery{{u"access_token"_s, tokens.value("access_token"_L1).toString()},
                                 {u"refresh_token"_s, u"r"_s}});

@@ -7,6 +7,7 @@
 #include "shell/WelcomeScreen.h"
 #include "shell/theme/ThemeManager.h"
 #include "support/FakeHttpService.h"
+#include "support/OpenedUrls.h"
 #include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
@@ -33,9 +34,6 @@ class MainWindowTest : public QObject
 {
     Q_OBJECT
 
-public Q_SLOTS:
-    void keepUrl(const QUrl &url) { m_openedUrl = url; }
-
 private Q_SLOTS:
     void rowsTellKindAndFigure_data();
     void rowsTellKindAndFigure();
@@ -53,9 +51,6 @@ private Q_SLOTS:
     void feedbackOpensThePage();
     void helpEntriesAnswerInTheStatusBar_data();
     void helpEntriesAnswerInTheStatusBar();
-
-private:
-    QUrl m_openedUrl;
 };
 
 void MainWindowTest::rowsTellKindAndFigure_data()
@@ -284,11 +279,11 @@ void MainWindowTest::feedbackOpensThePage()
 {
     ShellFixture shell;
     shell.openWindow();
-    QDesktopServices::setUrlHandler(u"https"_s, this, "keepUrl");
+    OpenedUrls opened;
     shell.trigger(u"feedbackAction"_s);
-    QDesktopServices::unsetUrlHandler(u"https"_s);
-    QCOMPARE(m_openedUrl.query(), u"tags=pursewell"_s);
-    QVERIFY(m_openedUrl.path().endsWith(u'/'));
+    const QUrl url = opened.take().value(0);
+    QCOMPARE(url.query(), u"tags=pursewell"_s);
+    QVERIFY(url.path().endsWith(u'/'));
 }
 
 void MainWindowTest::helpEntriesAnswerInTheStatusBar_data()

@@ -30,7 +30,6 @@ class SettingsScreenTest : public StateFixture
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void buildingWritesNothing();
     void choicesAreStoredAtOnce_data();
     void choicesAreStoredAtOnce();
@@ -61,13 +60,12 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_files;
     std::unique_ptr<FakeHttpService> m_service;
-    std::unique_ptr<SettingsScreen> m_screen;
+    SettingsScreen *m_screen = nullptr;
     QString m_told{}; // by the last message box
 };
 
 namespace {
 
-const QString kPulled = u"GET /pursewell/v1/sync/pull"_s;
 const QString kUser = u"GET /api/v1/realms/kestrelwood/users/me"_s;
 
 void limitFiles(rlim_t bytes) // beyond it a write fails, as on a full disk
@@ -94,19 +92,11 @@ void SettingsScreenTest::init()
     state().themeManager()->setThemeByName(u"light"_s);
 }
 
-void SettingsScreenTest::cleanup()
-{
-    m_screen.reset();
-    StateFixture::cleanup();
-}
-
 void SettingsScreenTest::open()
 {
-    m_screen = std::make_unique<SettingsScreen>(&state());
+    m_screen = keep<SettingsScreen>(&state());
     m_screen->onCategoryChanged(2);
-    m_screen->show();
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen.get()));
+    showActive(m_screen);
 }
 
 void SettingsScreenTest::press(const QString &button, const QList<Answer> &answers) const
@@ -128,11 +118,7 @@ void SettingsScreenTest::press(const QString &button, const QList<Answer> &answe
 
 Answer SettingsScreenTest::chooseFile(const QString &name) const
 {
-    return {u"QFileDialog"_s, [path = m_files->filePath(name)](QDialog *dialog) {
-                qobject_cast<QFileDialog *>(dialog)->setOption(QFileDialog::DontConfirmOverwrite);
-                dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(path);
-                dialog->accept();
-            }};
+    return {u"QFileDialog"_s, ::chooseFile(m_files->filePath(name))};
 }
 
 Answer SettingsScreenTest::chooseMode(const QString &mode)
@@ -229,10 +215,9 @@ void SettingsScreenTest::restoreBringsBackWhatWentWithTheAccount()
     QVERIFY(list->isVisible());
     QCOMPARE(list->item(0)->text(), u"<b>&Old</b> %1"_s);
     QVERIFY(!find<QWidget>(u"restoreButton"_s)->isEnabled());
-    const QSignalSpy restored(m_screen.get(), &SettingsScreen::deletedAccountRestored);
+    const QSignalSpy restored(m_screen, &SettingsScreen::deletedAccountRestored);
     list->setCurrentRow(0);
-    run(u"CREATE TRIGGER refusing BEFORE UPDATE ON accounts BEGIN "
-        "SELECT RAISE(ABORT, 'refused'); END"_s);
+    run(refusing(u"UPDATE ON accounts"_s));
     press(u"restoreButton"_s, {{u"restoreFailedBox"_s, [](QDialog *dialog) { dialog->accept(); }}});
     QCOMPARE(restored.size(), 0);
     QVERIFY(stored(u"payee"_s).isEmpty());
@@ -290,10 +275,7 @@ void SettingsScreenTest::forcedSyncStartsAfterARunningPass()
     const LogCatcher log;
     m_service->forgetRequests();
     state().syncEngine()->syncNow();
-    press(u"fullSyncButton"_s,
-          {{u"fullSyncQuestion"_s, [](QDialog *dialog) {
-                qobject_cast<QMessageBox *>(dialog)->button(QMessageBox::Yes)->click();
-            }}});
+    press(u"fullSyncButton"_s, {{u"fullSyncQuestion"_s, clickYes}});
     QVERIFY(!button->isEnabled());
     QTRY_VERIFY(button->isEnabled());
     QVERIFY(LogCatcher::infos().contains(
@@ -346,7 +328,7 @@ void SettingsScreenTest::backupComesBack()
         QFile other(m_files->filePath(u"<b>%1.zip"_s));
         QVERIFY(other.open(QIODevice::WriteOnly) && other.write(content) == content.size());
     }
-    const QSignalSpy restored(m_screen.get(), &SettingsScreen::deletedAccountRestored);
+    const QSignalSpy restored(m_screen, &SettingsScreen::deletedAccountRestored);
     press(u"importButton"_s, {file, chooseMode(mode), read(u"importCompleteBox"_s)});
     QTEST(m_told, "told");
     QTEST(stored(u"payee"_s), "payee");
@@ -401,7 +383,7 @@ void SettingsScreenTest::nothingInterruptsTheWork()
     open();
     auto *button = find<QPushButton>(u"exportButton"_s);
     int looks = 0;
-    connect(state().backupService(), &BackupService::progressed, m_screen.get(), [&] {
+    connect(state().backupService(), &BackupService::progressed, m_screen, [&] {
         auto *progress = m_screen->findChild<QProgressDialog *>();
         QTRY_VERIFY(progress->isVisible());
         QCOMPARE(button->text(), u"Exporting..."_s);
@@ -413,7 +395,7 @@ void SettingsScreenTest::nothingInterruptsTheWork()
         ++looks;
     });
     QTimer closer;
-    connect(&closer, &QTimer::timeout, m_screen.get(), [] {
+    connect(&closer, &QTimer::timeout, m_screen, [] {
         if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
             box->accept();
     });

@@ -6,6 +6,7 @@
 #include "data/Database.h"
 #include "data/TransactionRepository.h"
 #include "register/RegisterScreen.h"
+#include "support/TestSupport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,10 +23,7 @@ MainWindow *ShellFixture::openWindow()
 {
     m_window.reset();
     m_window = std::make_unique<MainWindow>(m_state.get());
-    m_window->show();
-    m_window->activateWindow();
-    if (!QTest::qWaitForWindowActive(m_window.get()))
-        qFatal("the window does not become active");
+    showActive(m_window.get());
     return m_window.get();
 }
 

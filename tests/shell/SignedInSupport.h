@@ -4,6 +4,8 @@
 
 class AppState;
 
+inline const QString kPulled = QStringLiteral("GET /pursewell/v1/sync/pull");
+
 // Before the state is made: its services are this one, all under their usual paths.
 void pointServicesAt(const FakeHttpService &service);
 

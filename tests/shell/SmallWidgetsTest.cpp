@@ -17,7 +17,6 @@ private Q_SLOTS:
     void statusBarCountsInWords();
     void messageEndsProgressAndHidesTheDues();
     void welcomeGreetsByForm();
-    void welcomeReturnsToTheFirstForm();
 };
 
 void SmallWidgetsTest::labelDrawsWholeOrElided_data()
@@ -124,26 +123,6 @@ void SmallWidgetsTest::welcomeGreetsByForm()
         QTest::mouseClick(signIn, Qt::LeftButton);
         QVERIFY(createAsked.size() == 1 && signInAsked.size() == 1);
     }
-}
-
-void SmallWidgetsTest::welcomeReturnsToTheFirstForm()
-{
-    WelcomeScreen screen;
-    screen.show();
-    const auto seen = [&screen] { // all that a person sees, in one comparable text
-        QStringList lines;
-        for (const QLabel *label : screen.findChildren<QLabel *>())
-            lines << label->text() + label->styleSheet() + QString::number(label->isVisible());
-        for (const QPushButton *button : screen.findChildren<QPushButton *>())
-            lines << button->text() + button->styleSheet() + QString::number(button->isFlat())
-                    + QString::number(button->minimumHeight());
-        return lines;
-    };
-    const QStringList before = seen();
-    screen.setReturningUser(true);
-    QVERIFY(seen() != before);
-    screen.setReturningUser(false);
-    QCOMPARE(seen(), before);
 }
 
 PURSEWELL_TEST_MAIN(SmallWidgetsTest)

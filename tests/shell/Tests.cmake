@@ -6,7 +6,6 @@ pursewell_test(AppStateTest LABEL widget USES pursewell_state)
 pursewell_test(AccessibilityTest LABEL widget
   USES pursewell_shell SOURCES Contrast.cpp EveryWindow.cpp ShellFixture.cpp SignedInSupport.cpp)
 pursewell_test(ContrastTest LABEL widget USES pursewell_theme SOURCES Contrast.cpp)
-pursewell_test(IndicatorStyleTest LABEL widget USES pursewell_theme SOURCES Contrast.cpp)
 pursewell_test(AppStateSyncTest LABEL widget USES pursewell_state SOURCES SignedInSupport.cpp)
 pursewell_test(SettingsScreenTest LABEL widget
   USES pursewell_shell pursewell_state_fixture SOURCES SignedInSupport.cpp)

@@ -21,3 +21,11 @@ private:
     QTimer m_timer;
     bool m_asked = false;
 };
+
+// Answers.
+void clickYes(QDialog *question);
+std::function<void(QDialog *)> chooseFile(const QString &path); // replaces one that is there
+
+// Opens a menu by the act and chooses the entry of that text, if any. Returns the texts of its
+// entries, by whether they are enabled.
+QMap<bool, QStringList> chooseInMenu(const std::function<void()> &act, const QString &entry = {});

@@ -25,6 +25,8 @@ void StateFixture::init()
 
 void StateFixture::cleanup()
 {
+    while (!m_kept.empty())
+        m_kept.pop_back();
     m_state.reset();
 }
 

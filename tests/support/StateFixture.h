@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <memory>
+#include <vector>
 
 // The base of a test of what works on the program's state: for each test function a new state, over
 // a database of its own with the account "Checking" and the default categories.
@@ -18,10 +19,17 @@ class StateFixture : public QObject
 
 protected Q_SLOTS:
     void init();
-    void cleanup(); // a class that keeps widgets on the state lets them go first
+    void cleanup();
 
 protected:
     AppState &state() const { return *m_state; }
+
+    // Makes what works on the state. It goes before the state does, the last one first.
+    template <typename Type, typename... Arguments> Type *keep(Arguments &&...arguments)
+    {
+        m_kept.push_back(std::make_unique<Type>(std::forward<Arguments>(arguments)...));
+        return static_cast<Type *>(m_kept.back().get());
+    }
 
     QString addAccount(const QString &name, const Account &rest = {}); // returns the id
     // Stores a transaction as it would have been typed long ago, in Checking if the rest names no
@@ -39,5 +47,6 @@ protected:
 private:
     std::unique_ptr<QTemporaryDir> m_directory;
     std::unique_ptr<AppState> m_state;
+    std::vector<std::unique_ptr<QObject>> m_kept;
     QDateTime m_nextStamp;
 };

@@ -2,6 +2,9 @@
 
 #include <QDir>
 #include <QLocale>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -71,6 +74,21 @@ ZoneChange::~ZoneChange()
         qunsetenv("TZ");
     else
         qputenv("TZ", m_before);
+}
+
+void showActive(QWidget *window, QSize size)
+{
+    if (size.isValid())
+        window->resize(size);
+    window->show();
+    window->activateWindow();
+    QVERIFY2(QTest::qWaitForWindowActive(window), qPrintable(window->objectName()));
+}
+
+QString refusing(const QString &event)
+{
+    return u"CREATE TRIGGER refusing BEFORE %1 BEGIN SELECT RAISE(ABORT, 'refused'); END"_s.arg(
+        event);
 }
 
 LogCatcher::LogCatcher()

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QWidget>
 
 // Points the settings, the data directory and the locale of this process at a scratch directory,
 // so that no test reads or writes a person's data. Construct it before the QApplication.
@@ -42,10 +43,27 @@ private:
     QByteArray m_before = qgetenv("TZ");
 };
 
-// Runs one test class in a scratch environment with a QApplication.
-#define PURSEWELL_TEST_MAIN(TestClass)                                                             \
+void showActive(QWidget *window, QSize size = {}); // its own size if none is given
+
+// The one of that name that can be seen, or null.
+template <typename Type> Type *visibleChild(const QWidget &parent, const QString &name)
+{
+    for (Type *child : parent.findChildren<Type *>(name)) {
+        if (child->isVisible())
+            return child;
+    }
+    return nullptr;
+}
+
+// The statement of a trigger that fails with the word "refused": "UPDATE ON accounts".
+QString refusing(const QString &event);
+
+// Runs one test class in a scratch environment with a QApplication. More arguments are statements
+// that run before.
+#define PURSEWELL_TEST_MAIN(TestClass, ...)                                                        \
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \
+        __VA_ARGS__;                                                                               \
         TestEnvironment environment;                                                               \
         QApplication application(argc, argv);                                                      \
         QCoreApplication::setOrganizationName(QStringLiteral("Kestrelwood"));                      \

@@ -83,9 +83,7 @@ void BadAnswersTest::survivesBadAnswers()
     service.answer(kPull, {kEmpty});
     service.answer(call, {reply});
     TestDatabase database;
-    SyncRig rig({&database.accounts, &database.transactions, &database.categories,
-                 &database.recurring, &database.reconciliations, &database.preferences},
-                service.url(), tokenFor(3600));
+    SyncRig rig(repositoriesOf(database), service.url(), tokenFor(3600));
     Account account = sampleAccount(u"p"_s);
     account.sync_status = SyncStatus::Pending;
     database.accounts.insert(account);

@@ -1,5 +1,6 @@
 #include "sync/PullApplier.h"
 
+#include "SyncRig.h"
 #include "support/SampleRecords.h"
 #include "support/TestDatabase.h"
 #include "support/TestSupport.h"
@@ -93,9 +94,7 @@ void PullApplierTest::init()
     m_database.reset();
     m_database = std::make_unique<TestDatabase>();
     m_database->addSampleOwners();
-    m_applier = std::make_unique<PullApplier>(SyncRepositories{
-        &m_database->accounts, &m_database->transactions, &m_database->categories,
-        &m_database->recurring, &m_database->reconciliations, &m_database->preferences});
+    m_applier = std::make_unique<PullApplier>(repositoriesOf(*m_database));
 }
 
 void PullApplierTest::apply(int entity, const QList<QJsonObject> &records)

@@ -75,8 +75,6 @@ class SyncEngineTest : public QObject
 
 private Q_SLOTS:
     void init();
-    void textsOfStates();
-    void onlyPullsWithoutChanges();
     void pushesThenPulls();
     void marksWhatWasAccepted();
     void burstsBecomeOnePass();
@@ -109,11 +107,8 @@ void SyncEngineTest::init()
     m_service->answer(kPush, {results({})});
     m_service->answer(kPull, {page({})});
     m_database = std::make_unique<TestDatabase>();
-    m_rig = std::make_unique<SyncRig>(
-        SyncRepositories{&m_database->accounts, &m_database->transactions, &m_database->categories,
-                         &m_database->recurring, &m_database->reconciliations,
-                         &m_database->preferences},
-        m_service->url(), tokenFor(3600));
+    m_rig =
+        std::make_unique<SyncRig>(repositoriesOf(*m_database), m_service->url(), tokenFor(3600));
 }
 
 void SyncEngineTest::addPending(const QString &id)
@@ -128,25 +123,6 @@ QStringList SyncEngineTest::takeRequests()
     const QStringList lines = m_service->requestLines();
     m_service->forgetRequests();
     return lines;
-}
-
-void SyncEngineTest::textsOfStates()
-{
-    QStringList texts;
-    for (int state = 0; state <= 4; ++state)
-        texts << SyncEngine::stateText(static_cast<SyncEngine::SyncState>(state));
-    QCOMPARE(
-        texts,
-        (QStringList{u"Synced"_s, u"Syncing..."_s, u"Sync error"_s, u"Offline"_s, u"Unknown"_s}));
-}
-
-void SyncEngineTest::onlyPullsWithoutChanges()
-{
-    QVERIFY(m_rig->runPass());
-    QCOMPARE(m_service->requestLines(), QStringList{kPull});
-    QCOMPARE(m_service->requests().first().target.query(), u"limit=200"_s);
-    QCOMPARE(m_rig->takeEvents(),
-             (QStringList{u"Syncing"_s, u"Idle"_s, u"completed"_s, u"data"_s}));
 }
 
 void SyncEngineTest::pushesThenPulls()

@@ -1,9 +1,9 @@
 #include "sync/SyncPayloads.h"
 
+#include "SyncRig.h"
 #include "support/SampleRecords.h"
 #include "support/TestDatabase.h"
 #include "support/TestSupport.h"
-#include "sync/SyncRepositories.h"
 
 #include <QJsonDocument>
 
@@ -114,9 +114,7 @@ void SyncPayloadsTest::collectsPendingRowsInOrder()
     database.recurring.insert(sampleRecurring());
     database.transactions.insert(sampleTransaction());
     database.reconciliations.insert(sampleReconciliation());
-    const SyncRepositories repositories{&database.accounts,        &database.transactions,
-                                        &database.categories,      &database.recurring,
-                                        &database.reconciliations, &database.preferences};
+    const SyncRepositories repositories = repositoriesOf(database);
     QCOMPARE(pendingChanges(repositories), QJsonArray()); // synced and conflicting ones
 
     for (const QString &table : {u"accounts"_s, u"categories"_s, u"recurring_transactions"_s,

@@ -6,6 +6,12 @@
 
 #include <QUrl>
 
+SyncRepositories repositoriesOf(auto &owner) // of a test database, or what else has them
+{
+    return {&owner.accounts,  &owner.transactions,    &owner.categories,
+            &owner.recurring, &owner.reconciliations, &owner.preferences};
+}
+
 // A sync engine on somebody's repositories, signed in to a service.
 class SyncRig
 {

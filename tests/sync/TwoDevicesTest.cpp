@@ -61,8 +61,7 @@ struct Session
     RecurringRepository recurring{connection.database.get()};
     ReconciliationRepository reconciliations{connection.database.get()};
     PreferencesRepository preferences{connection.database.get()};
-    SyncRepositories repositories{&accounts,  &transactions,    &categories,
-                                  &recurring, &reconciliations, &preferences};
+    SyncRepositories repositories = repositoriesOf(*this);
     bool isOpen;
     SyncRig rig;
 };

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDesktopServices>
+#include <QUrl>
+
+// For its lifetime takes the addresses that the desktop would have been given to open.
+class OpenedUrls : public QObject
+{
+    Q_OBJECT
+
+public:
+    OpenedUrls()
+    {
+        for (const char *scheme : {"http", "https", "file", "javascript", "ms-word"})
+            QDesktopServices::setUrlHandler(QLatin1StringView(scheme), this, "add");
+    }
+    QList<QUrl> take() { return std::exchange(m_urls, {}); }
+
+public Q_SLOTS:
+    void add(const QUrl &url) { m_urls << url; }
+
+private:
+    QList<QUrl> m_urls{};
+};
