@@ -2834,10 +2834,6 @@ Beide Seiten der Umbuchung werden gelöscht.</translation>
         <translation>Import läuft...</translation>
     </message>
     <message>
-        <source>A sync is still running. Please try again when it has ended.</source>
-        <translation>Es läuft noch eine Synchronisierung. Bitte versuchen Sie es danach noch einmal.</translation>
-    </message>
-    <message>
         <source>Replace all with backup data</source>
         <translation>Alles durch Sicherungsdaten ersetzen</translation>
     </message>

@@ -2834,10 +2834,6 @@ Se eliminarán los dos lados de la transferencia.</translation>
         <translation>Importando...</translation>
     </message>
     <message>
-        <source>A sync is still running. Please try again when it has ended.</source>
-        <translation>Todavía hay una sincronización en curso. Inténtelo de nuevo cuando haya terminado.</translation>
-    </message>
-    <message>
         <source>Replace all with backup data</source>
         <translation>Reemplazar todo por los datos de la copia</translation>
     </message>

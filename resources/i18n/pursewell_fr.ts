@@ -2834,10 +2834,6 @@ Les deux côtés du virement seront supprimés.</translation>
         <translation>Importation...</translation>
     </message>
     <message>
-        <source>A sync is still running. Please try again when it has ended.</source>
-        <translation>Une synchronisation est encore en cours. Veuillez réessayer lorsqu&apos;elle sera terminée.</translation>
-    </message>
-    <message>
         <source>Replace all with backup data</source>
         <translation>Tout remplacer par la sauvegarde</translation>
     </message>

@@ -2822,10 +2822,6 @@ Both sides of the transfer will be deleted.</source>
         <translation>復元中...</translation>
     </message>
     <message>
-        <source>A sync is still running. Please try again when it has ended.</source>
-        <translation>同期がまだ実行中です。終了してからもう一度お試しください。</translation>
-    </message>
-    <message>
         <source>Replace all with backup data</source>
         <translation>すべてバックアップのデータで置き換え</translation>
     </message>

@@ -16,7 +16,6 @@
 #include <QInputDialog>
 #include <QPushButton>
 #include <QSaveFile>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +23,6 @@ namespace {
 
 constexpr int kProgressDelayMs = 500;
 constexpr qint64 kLargestFile = 2LL * 1024 * 1024 * 1024; // bytes; no household has as much
-constexpr int kPassWaitMs = 10'000; // a service that hangs keeps nobody from a backup
 
 // A button at work says so, cannot be pressed again, and has been painted like that.
 class ButtonAtWork
@@ -53,18 +51,14 @@ private:
     QString m_text;
 };
 
-// A pass could pull rows into tables of which one is in the archive already, or mark rows as synced
-// that the import has just changed. The next one is held off by a bulk write.
-// False when it does not end.
-bool waitForSyncPass(SyncEngine *engine)
+// Late answers could bring rows into tables of which one is in the archive already, or mark rows as
+// synced that the import has just changed. The next pass is held off by a bulk write.
+void abandonSyncPass(SyncEngine *engine)
 {
     if (engine->state() != SyncEngine::SyncState::Syncing)
-        return true;
-    QEventLoop loop;
-    QObject::connect(engine, &SyncEngine::stateChanged, &loop, &QEventLoop::quit);
-    QTimer::singleShot(kPassWaitMs, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return engine->state() != SyncEngine::SyncState::Syncing;
+        return;
+    engine->abandonPass();
+    engine->scheduleSync();
 }
 
 // An older backup of that name stays until the new one is complete.
@@ -136,7 +130,7 @@ QByteArray SettingsBackupSection::buildBackup()
     WorkProgressDialog progress(tr("Exporting..."), kProgressDelayMs, this);
     connect(service, &BackupService::progressed, &progress, &WorkProgressDialog::showProgress);
     const BulkWrite noSync(m_appState->transactions());
-    waitForSyncPass(m_appState->syncEngine());
+    abandonSyncPass(m_appState->syncEngine());
     return service->exportBackup();
 }
 
@@ -157,13 +151,7 @@ void SettingsBackupSection::importBackup()
     }
     {
         const ButtonAtWork working(m_importButton, tr("Importing..."));
-        const std::optional<BackupImportResult> result = mergeBackup(*bytes, *mode);
-        if (!result) {
-            tell(QMessageBox::Warning, u"importFailedBox"_s, tr("Import Failed"),
-                 tr("A sync is still running. Please try again when it has ended."));
-            return;
-        }
-        showResult(*result);
+        showResult(mergeBackup(*bytes, *mode));
     }
     Q_EMIT backupImported();
 }
@@ -190,15 +178,13 @@ std::optional<BackupMergeMode> SettingsBackupSection::askForMode()
     }
 }
 
-std::optional<BackupImportResult> SettingsBackupSection::mergeBackup(const QByteArray &bytes,
-                                                                     BackupMergeMode mode)
+BackupImportResult SettingsBackupSection::mergeBackup(const QByteArray &bytes, BackupMergeMode mode)
 {
     BackupService *service = m_appState->backupService();
     WorkProgressDialog progress(tr("Importing..."), kProgressDelayMs, this);
     connect(service, &BackupService::progressed, &progress, &WorkProgressDialog::showProgress);
     const BulkWrite noSync(m_appState->transactions());
-    if (!waitForSyncPass(m_appState->syncEngine()))
-        return std::nullopt; // its late answer would mark imported rows as synced
+    abandonSyncPass(m_appState->syncEngine());
     return service->importBackup(bytes, mode);
 }
 

@@ -25,8 +25,7 @@ private:
     void exportBackup();
     void importBackup();
     QByteArray buildBackup();
-    // None when a sync pass would not end.
-    std::optional<BackupImportResult> mergeBackup(const QByteArray &bytes, BackupMergeMode mode);
+    BackupImportResult mergeBackup(const QByteArray &bytes, BackupMergeMode mode);
     std::optional<BackupMergeMode> askForMode();
     void showResult(const BackupImportResult &result);
     void tell(QMessageBox::Icon icon, const QString &name, const QString &title,

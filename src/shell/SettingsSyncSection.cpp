@@ -19,7 +19,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using SyncState = SyncEngine::SyncState;
@@ -185,12 +184,10 @@ void SettingsSyncSection::confirmFullSync()
 // would not take place.
 void SettingsSyncSection::runFullSync()
 {
-    m_fullSyncWaits = m_appState->syncEngine()->state() == SyncState::Syncing;
-    if (!m_fullSyncWaits) {
-        markAllPending();
-        m_appState->preferences()->remove(kCursorKey);
-        m_appState->syncEngine()->syncNow();
-    }
+    m_appState->syncEngine()->abandonPass();
+    markAllPending();
+    m_appState->preferences()->remove(kCursorKey);
+    m_appState->syncEngine()->syncNow();
     disable(m_fullSyncButton);
     awaitPass();
 }
@@ -232,14 +229,6 @@ void SettingsSyncSection::onStateChanged(SyncState state)
     if (state == SyncState::Syncing)
         return;
     disconnect(m_passConnection);
-    if (m_fullSyncWaits) // not from within the pass that ends
-        QTimer::singleShot(0, this, &SettingsSyncSection::runFullSync);
-    else
-        endPass();
-}
-
-void SettingsSyncSection::endPass()
-{
     m_syncNowButton->setEnabled(true);
     m_fullSyncButton->setEnabled(true);
     m_syncNowButton->setText(tr("Sync Now"));

@@ -40,7 +40,6 @@ private:
     void awaitPass();
     void disable(QPushButton *button);
     void onStateChanged(SyncEngine::SyncState state);
-    void endPass();
 
     AppState *m_appState;
     QLabel *m_statusLabel = nullptr;
@@ -51,6 +50,5 @@ private:
     QMetaObject::Connection m_passConnection{}; // for the one pass that is waited for
     QPointer<QWidget> m_focusAfterPass{}; // the button that had the focus before
     QPointer<QWidget> m_focusMeanwhile{}; // what has it for want of that button
-    bool m_fullSyncWaits = false; // for the end of that pass
     bool m_isAsking = false; // for the user
 };

@@ -69,7 +69,7 @@ void SyncEngine::scheduleSync()
 void SyncEngine::syncNow()
 {
     if (m_signedInCheck && !m_signedInCheck()) {
-        ++m_pass; // an answer to whoever was signed in would come into the midst of something else
+        abandonPass();
         m_syncQueued = false;
         setState(SyncState::Idle);
         return;
@@ -87,6 +87,13 @@ void SyncEngine::syncNow()
     m_syncQueued = false;
     setState(SyncState::Syncing);
     collectPendingChanges();
+}
+
+void SyncEngine::abandonPass()
+{
+    ++m_pass;
+    if (m_state == SyncState::Syncing)
+        setState(SyncState::Idle);
 }
 
 QString SyncEngine::stateText(SyncState state)

@@ -49,8 +49,11 @@ public:
     void stopAutoSync(); // does not cancel a running pass
     void scheduleSync(); // one pass, kDebounceMs after the last call
     // Or one further pass after the running one; an import is waited for. With nobody signed in it
-    // sends nothing, and late answers to a running pass change nothing.
+    // sends nothing and abandons a running pass.
     void syncNow();
+    // The answers to a running pass will change nothing, as if the network had lost them. What was
+    // applied stays, and the next pass asks anew.
+    void abandonPass();
 
     SyncState state() const { return m_state; }
     QString lastError() const { return m_lastError; }
@@ -89,5 +92,5 @@ private:
     bool m_syncQueued = false;
     std::function<bool()> m_signedInCheck{};
     QJsonArray m_pendingChanges{}; // collected for this pass and not yet sent
-    int m_pass = 0; // which one's answers count
+    int m_pass = 0; // the one whose answers count
 };

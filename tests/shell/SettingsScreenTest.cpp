@@ -36,7 +36,7 @@ private Q_SLOTS:
     void activeLanguageTellsNothing();
     void restoreBringsBackWhatWentWithTheAccount();
     void syncSectionTellsItsState();
-    void forcedSyncStartsAfterARunningPass();
+    void forcedSyncReplacesARunningPass();
     void backupComesBack_data();
     void backupComesBack();
     void failedWriteKeepsTheOlderBackup_data();
@@ -264,8 +264,8 @@ void SettingsScreenTest::syncSectionTellsItsState()
     QCOMPARE(label(u"lastSyncLabel"_s), u"Last synced: <soon>\nError: Pull failed (HTTP 500)"_s);
 }
 
-// The running pass writes its cursor after it was removed.
-void SettingsScreenTest::forcedSyncStartsAfterARunningPass()
+// Its answer would bring back the cursor, and one that never comes would keep the buttons waiting.
+void SettingsScreenTest::forcedSyncReplacesARunningPass()
 {
     signIn(state());
     open();
@@ -274,7 +274,9 @@ void SettingsScreenTest::forcedSyncStartsAfterARunningPass()
     run(u"UPDATE categories SET sync_status = 'synced'"_s);
     const LogCatcher log;
     m_service->forgetRequests();
+    m_service->answer(kPulled, {{.hangs = true}, {.body = "{}"}});
     state().syncEngine()->syncNow();
+    QTRY_VERIFY(!m_service->requests().isEmpty());
     press(u"fullSyncButton"_s, {{u"fullSyncQuestion"_s, clickYes}});
     QVERIFY(!button->isEnabled());
     QTRY_VERIFY(button->isEnabled());
@@ -380,6 +382,10 @@ void SettingsScreenTest::vanishedFileIsTold()
 
 void SettingsScreenTest::nothingInterruptsTheWork()
 {
+    m_service->answer(kPulled, {{.hangs = true}});
+    signIn(state());
+    const SyncEngine *engine = state().syncEngine();
+    QCOMPARE(engine->state(), SyncEngine::SyncState::Syncing);
     open();
     auto *button = find<QPushButton>(u"exportButton"_s);
     int looks = 0;
@@ -391,6 +397,7 @@ void SettingsScreenTest::nothingInterruptsTheWork()
         QTest::keyClick(progress->windowHandle(), Qt::Key_Escape);
         QVERIFY(progress->isVisible());
         QVERIFY(state().transactions()->isBulkWriting()); // which holds the sync back
+        QCOMPARE(engine->state(), SyncEngine::SyncState::Idle);
         m_screen->close();
         ++looks;
     });
