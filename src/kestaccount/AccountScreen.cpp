@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QPushButton>
 #include <QStackedWidget>
 
 #include <algorithm>
@@ -158,10 +159,16 @@ void AccountScreen::showStatus(const QString &text, const QString &style, int du
 void AccountScreen::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
         styleNavigation();
-    else if (event->type() == QEvent::FontChange)
+        // A style sheet takes what it wants of the palette when it is set.
+        for (QPushButton *button : m_pages->findChildren<QPushButton *>()) {
+            if (!button->styleSheet().isEmpty())
+                button->setStyleSheet(button->styleSheet());
+        }
+    } else if (event->type() == QEvent::FontChange) {
         takeFont();
+    }
 }
 
 void AccountScreen::styleNavigation()

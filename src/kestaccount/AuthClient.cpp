@@ -110,6 +110,7 @@ void AuthClient::handleCallback(const QUrl &url)
         Q_EMIT loginFailed(u"No tokens received"_s);
         return;
     }
+    ++m_session;
     m_tokenManager->setTokens(access, refresh);
     setState(AuthState::Authenticated);
     Q_EMIT loginSucceeded();
@@ -138,8 +139,8 @@ void AuthClient::fetchCurrentUser(std::function<void(const User &)> callback)
 {
     m_apiClient->get(
         u"/users/me"_s,
-        [this, asked = userId(), callback](bool success, int, const QJsonObject &body) {
-            takeUser(success && asked == userId(), body, callback);
+        [this, session = m_session, callback](bool success, int, const QJsonObject &body) {
+            takeUser(success && session == m_session, body, callback);
         });
 }
 
@@ -148,8 +149,8 @@ void AuthClient::updateProfile(const QString &displayName,
 {
     m_apiClient->patch(
         u"/users/me"_s, {{"display_name"_L1, displayName}},
-        [this, asked = userId(), callback](bool success, int, const QJsonObject &body) {
-            takeUser(success && asked == userId(), body, callback);
+        [this, session = m_session, callback](bool success, int, const QJsonObject &body) {
+            takeUser(success && session == m_session, body, callback);
         });
 }
 
@@ -204,6 +205,7 @@ void AuthClient::setState(AuthState state)
 
 void AuthClient::signOutLocally()
 {
+    ++m_session;
     m_tokenManager->clearTokens();
     m_currentUser = {};
     setState(AuthState::Unauthenticated);

@@ -67,6 +67,7 @@ private:
     TokenManager *m_tokenManager;
     AuthState m_state = AuthState::Unknown;
     User m_currentUser{};
+    int m_session = 0; // the one whose answers tell of the current user
 };
 
 } // namespace KestAccount

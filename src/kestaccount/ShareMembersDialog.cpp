@@ -256,7 +256,6 @@ QWidget *ShareMembersDialog::shareRow(const ShareMember &share)
     button->setAutoRaise(true);
     button->setToolTip(m_words.removeButtonText);
     button->setAccessibleName(m_words.removeButtonText);
-    button->setAccessibleDescription(row->primaryText());
     connect(
         button, &QToolButton::clicked, this,
         [this, userId = share.userId, name = row->primaryText()] { removeShare(userId, name); });
@@ -270,7 +269,6 @@ QWidget *ShareMembersDialog::candidateRow(const GroupMember &member)
     row->setObjectName(u"candidateRow"_s);
     auto *button = new QPushButton(m_words.shareButtonText);
     button->setObjectName(u"shareButton"_s);
-    button->setAccessibleDescription(row->primaryText());
     button->setAutoDefault(false); // Return closes the dialog and shares nothing
     button->setCursor(Qt::PointingHandCursor);
     connect(button, &QPushButton::clicked, this,

@@ -36,7 +36,8 @@ void MainWindow::connectSync()
 {
     const SyncEngine *engine = m_appState->syncEngine();
     connect(engine, &SyncEngine::stateChanged, this, [this](SyncEngine::SyncState state) {
-        m_statusBar->setSyncStatus(SyncEngine::stateText(state));
+        if (m_appState->accountClient()->isAuthenticated())
+            m_statusBar->setSyncStatus(SyncEngine::stateText(state));
     });
     connect(engine, &SyncEngine::syncCompleted, this,
             [this] { m_statusBar->showTimedMessage(tr("Sync complete"), 2000); });

@@ -16,12 +16,14 @@
 #include <QInputDialog>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int kProgressDelayMs = 500;
+constexpr int kPassWaitMs = 3000; // a service that hangs keeps nobody from a backup
 constexpr qint64 kLargestFile = 2LL * 1024 * 1024 * 1024; // bytes; no household has as much
 
 // A button at work says so, cannot be pressed again, and has been painted like that.
@@ -53,12 +55,17 @@ private:
 
 // Late answers could bring rows into tables of which one is in the archive already, or mark rows as
 // synced that the import has just changed. The next pass is held off by a bulk write.
-void abandonSyncPass(SyncEngine *engine)
+void endSyncPass(SyncEngine *engine)
 {
-    if (engine->state() != SyncEngine::SyncState::Syncing)
-        return;
+    if (engine->state() == SyncEngine::SyncState::Syncing) {
+        QEventLoop loop;
+        QObject::connect(engine, &SyncEngine::stateChanged, &loop, &QEventLoop::quit);
+        QTimer::singleShot(kPassWaitMs, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+    if (engine->state() == SyncEngine::SyncState::Syncing)
+        engine->scheduleSync(); // for what the abandoned one does not bring
     engine->abandonPass();
-    engine->scheduleSync();
 }
 
 // An older backup of that name stays until the new one is complete.
@@ -130,7 +137,7 @@ QByteArray SettingsBackupSection::buildBackup()
     WorkProgressDialog progress(tr("Exporting..."), kProgressDelayMs, this);
     connect(service, &BackupService::progressed, &progress, &WorkProgressDialog::showProgress);
     const BulkWrite noSync(m_appState->transactions());
-    abandonSyncPass(m_appState->syncEngine());
+    endSyncPass(m_appState->syncEngine());
     return service->exportBackup();
 }
 
@@ -184,7 +191,7 @@ BackupImportResult SettingsBackupSection::mergeBackup(const QByteArray &bytes, B
     WorkProgressDialog progress(tr("Importing..."), kProgressDelayMs, this);
     connect(service, &BackupService::progressed, &progress, &WorkProgressDialog::showProgress);
     const BulkWrite noSync(m_appState->transactions());
-    abandonSyncPass(m_appState->syncEngine());
+    endSyncPass(m_appState->syncEngine());
     return service->importBackup(bytes, mode);
 }
 

@@ -176,8 +176,10 @@ void SettingsSyncSection::confirmFullSync()
                          QMessageBox::Yes | QMessageBox::No, this);
     question.setObjectName(u"fullSyncQuestion"_s);
     question.setDefaultButton(QMessageBox::No);
-    if (question.exec() == QMessageBox::Yes)
-        runFullSync();
+    if (question.exec() != QMessageBox::Yes)
+        return;
+    m_focusAfterPass = nullptr; // of a pass that this one replaces
+    runFullSync();
 }
 
 // A pass that is under way would write its own cursor over the removed one, and the full download

@@ -84,6 +84,7 @@ void SyncEngine::syncNow()
         scheduleSync();
         return;
     }
+    ++m_pass;
     m_syncQueued = false;
     setState(SyncState::Syncing);
     collectPendingChanges();

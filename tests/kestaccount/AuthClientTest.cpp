@@ -268,9 +268,17 @@ void AuthClientTest::keepsTheLastKnownUser()
     QTRY_COMPARE(users.size(), 4);
     QCOMPARE(m_auth->currentUser(), User());
     m_service->answer(u"GET /users/me"_s, {{.body = R"({"id":"u1"})"}});
+    m_service->answer(u"POST /auth/token/refresh"_s,
+                      {{.body = QJsonDocument(QJsonObject{{"access_token"_L1, tokenFor(60)},
+                                                          {"refresh_token"_L1, u"r"_s}})
+                                    .toJson()}});
+    m_tokens->setTokens(tokenFor(10), u"r"_s); // too near its end: refreshed before the request
+    m_auth->fetchCurrentUser(note);
+    QTRY_COMPARE(users.size(), 5);
+    QCOMPARE(users.last().id, u"u1"_s);
     m_auth->fetchCurrentUser(note);
     m_auth->logout(); // before the answer
-    QTRY_COMPARE(users.size(), 5);
+    QTRY_COMPARE(users.size(), 6);
     QCOMPARE(users.last(), User());
 }
 

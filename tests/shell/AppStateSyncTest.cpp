@@ -150,15 +150,17 @@ void AppStateSyncTest::signingInStartsAndSigningOutStops()
 {
     const LogCatcher log;
     start();
-    m_service->answer(kPulled, {{.body = "{}"}});
+    m_service->answer(u"POST /pursewell/v1/sync/push"_s, {{.hangs = true}});
     signIn(*m_state);
     QVERIFY(QSettings().value(u"auth/hasSignedInBefore"_s).toBool());
     QTRY_VERIFY(m_service->requestLines().contains(u"POST /account/v1/devices/register"_s));
     QTRY_VERIFY(!m_service->requestLines().filter(u"/sync/"_s).isEmpty());
     QVERIFY(isTimerActive(kAutoSyncIntervalMs));
     QVERIFY(isTimerActive(kDebounceMs));
+    QCOMPARE(m_state->syncEngine()->state(), SyncEngine::SyncState::Syncing);
     m_state->accountClient()->authClient()->logout();
     QVERIFY(!isTimerActive(kAutoSyncIntervalMs));
+    QCOMPARE(m_state->syncEngine()->state(), SyncEngine::SyncState::Idle);
     QVERIFY(QSettings().value(u"auth/hasSignedInBefore"_s).toBool());
 }
 

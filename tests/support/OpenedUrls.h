@@ -11,8 +11,13 @@ class OpenedUrls : public QObject
 public:
     OpenedUrls()
     {
-        for (const char *scheme : {"http", "https", "file", "javascript", "ms-word"})
+        for (const char *scheme : kSchemes)
             QDesktopServices::setUrlHandler(QLatin1StringView(scheme), this, "add");
+    }
+    ~OpenedUrls() override
+    {
+        for (const char *scheme : kSchemes)
+            QDesktopServices::unsetUrlHandler(QLatin1StringView(scheme));
     }
     QList<QUrl> take() { return std::exchange(m_urls, {}); }
 
@@ -20,5 +25,7 @@ public Q_SLOTS:
     void add(const QUrl &url) { m_urls << url; }
 
 private:
+    static constexpr const char *kSchemes[]{"http", "https", "file", "javascript", "ms-word"};
+
     QList<QUrl> m_urls{};
 };

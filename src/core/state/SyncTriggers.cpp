@@ -52,6 +52,10 @@ void restoreSession(AppState *state)
     KestAccount::Client *client = state->accountClient();
     AuthClient *auth = client->authClient();
     client->initialize();
+    QObject::connect(client, &KestAccount::Client::authStateChanged, state, [state, client] {
+        if (!client->isAuthenticated())
+            state->syncEngine()->abandonPass(); // nobody is there to see its end
+    });
     QObject::connect(auth, &AuthClient::loginSucceeded, state,
                      [state] { onLoginSucceeded(state); });
     QObject::connect(auth, &AuthClient::logoutCompleted, state,
